@@ -1,0 +1,55 @@
+# SPDX-FileCopyrightText: 2026 Norvane
+# SPDX-License-Identifier: MPL-2.0
+
+include(CMakePackageConfigHelpers)
+
+# vkilnjet_add_library(NAME
+#     INCLUDE_DIR DIR          folder that holds the public headers, as they are included
+#     SOURCES FILE...
+#     PUBLIC TARGET...         what the public headers need
+#     [PRIVATE TARGET...]      what only the implementation needs
+#     [QT COMPONENT...]        Qt components that a user of the installed library must find
+#     [PACKAGES NAME...])      packages of this project that it must find
+#
+# A shared library with hidden symbols, the alias Norvane::NAME, and its own installed package
+# NAME (find_package(NAME CONFIG)).
+function(vkilnjet_add_library name)
+    cmake_parse_arguments(arg "" "INCLUDE_DIR" "SOURCES;PUBLIC;PRIVATE;QT;PACKAGES" ${ARGN})
+
+    add_library(${name} SHARED ${arg_SOURCES})
+    add_library(Norvane::${name} ALIAS ${name})
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS "${arg_INCLUDE_DIR}/*.h")
+    target_sources(${name} PUBLIC
+        FILE_SET HEADERS BASE_DIRS "${arg_INCLUDE_DIR}" FILES ${headers})
+    target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_compile_features(${name} PUBLIC cxx_std_20)
+    target_link_libraries(${name}
+        PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} $<BUILD_INTERFACE:vkilnjet_compiler>)
+    string(TOUPPER ${name} upper)
+    set_target_properties(${name} PROPERTIES
+        DEFINE_SYMBOL ${upper}_LIBRARY
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+
+    set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${name}")
+    install(TARGETS ${name} EXPORT ${name}Targets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+        FILE_SET HEADERS DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+    install(EXPORT ${name}Targets NAMESPACE Norvane:: DESTINATION "${package_dir}")
+
+    set(PACKAGE_QT_COMPONENTS "${arg_QT}")
+    set(PACKAGE_DEPENDENCIES "${arg_PACKAGES}")
+    set(PACKAGE_NAME "${name}")
+    configure_package_config_file(
+        "${PROJECT_SOURCE_DIR}/cmake/PackageConfig.cmake.in" "${name}Config.cmake"
+        INSTALL_DESTINATION "${package_dir}")
+    write_basic_package_version_file("${name}ConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+    install(FILES
+        "${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake"
+        "${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake"
+        DESTINATION "${package_dir}")
+endfunction()

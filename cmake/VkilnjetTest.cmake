@@ -1,0 +1,27 @@
+# SPDX-FileCopyrightText: 2026 Norvane
+# SPDX-License-Identifier: MPL-2.0
+
+# What every test runs with: no display, and a time limit that only a hang can reach.
+set(VKILNJET_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+set(VKILNJET_TEST_TIMEOUT 300)
+
+# vkilnjet_add_tests(AREA LIBRARIES TARGET... [DEPENDS TARGET...])
+#
+# Every tst_*.cpp of the current folder becomes one program and one test, named AREA.FILE.
+function(vkilnjet_add_tests area)
+    cmake_parse_arguments(arg "" "" "LIBRARIES;DEFINITIONS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS "tst_*.cpp")
+    foreach(source IN LISTS sources)
+        get_filename_component(file ${source} NAME_WE)
+        string(REPLACE "tst_" "" topic ${file})
+        set(target "tst_${area}_${topic}")
+        add_executable(${target} ${source})
+        set_target_properties(${target} PROPERTIES AUTOMOC ON)
+        target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+        target_link_libraries(${target} PRIVATE vkilnjet_compiler Qt6::Test ${arg_LIBRARIES})
+        target_compile_definitions(${target} PRIVATE ${arg_DEFINITIONS})
+        add_test(NAME ${area}.${topic} COMMAND ${target})
+        set_tests_properties(${area}.${topic} PROPERTIES
+            ENVIRONMENT "${VKILNJET_TEST_ENVIRONMENT}" TIMEOUT ${VKILNJET_TEST_TIMEOUT})
+    endforeach()
+endfunction()

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <vcommon/Export.h>
+#include <vcommon/VDBField.h>
+
+#include <QtCore/QSharedDataPointer>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+namespace Norvane::Database {
+
+class VDBRecordData;
+class VDBText;
+
+/// One record of a text database: fields in order, each a key and a value.
+///
+/// The store writes values as text, in the locale that the field cultureKey() names, and adds that
+/// field and the signature by itself. Copies are cheap and independent.
+/// Threads: one at a time for one object.
+class VCOMMON_EXPORT VDBRecord
+{
+public:
+    VDBRecord();
+    VDBRecord(const VDBRecord &other);
+    VDBRecord &operator=(const VDBRecord &other);
+    ~VDBRecord();
+
+    /// True when the record has no fields and stands for no stored one: past the end of a store.
+    bool isNull() const;
+
+    /// Appends the field `key`, or gives it a new value; the signature no longer matches then.
+    void insert(const QString &key, const QVariant &value);
+    /// The field `key`, found or not.
+    VDBField search(const QString &key) const;
+    /// The keys in order.
+    QStringList keys() const;
+
+    /// True when the record came from a store and its signature matched its content there. A store
+    /// opened with a key asks for the signature under that key.
+    bool checkSignature() const;
+
+    /// The line of the file on which the record stands, from 1; 0 when it is in no file.
+    qint64 line() const;
+
+    /// The key of the field that names the locale of the values.
+    static QString cultureKey();
+
+private:
+    friend class VDBText;
+    QSharedDataPointer<VDBRecordData> d;
+};
+
+} // namespace Norvane::Database

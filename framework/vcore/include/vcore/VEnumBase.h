@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <vcore/IVEnum.h>
+
+#include <QtCore/QLatin1StringView>
+
+#include <type_traits>
+
+namespace Norvane {
+
+/// One row of an enumeration's table: a value and one of its names.
+template<typename E>
+struct VEnumEntry
+{
+    E value;
+    QLatin1StringView name;
+};
+
+/// The runtime object of the plain enumeration `E`, whose numbers are of type `U`.
+///
+/// Threads: built once, then only read, from any thread.
+template<typename E, typename U = std::underlying_type_t<E>>
+class VEnumBase : public IVEnum
+{
+public:
+    bool isFlags() const override { return false; }
+
+    /// The name of `value`; without one, the number as `locale` writes it.
+    virtual QString toString(const U &value, const QLocale &locale) const
+    {
+        return names().toString(qint64(value), locale);
+    }
+
+    /// The number whose name is `text`, compared with `cs` after trimming; else `fallback`.
+    /// `*ok` says whether a name was found; `ok` may be null. Digits are never read as a number.
+    virtual U fromString(const QString &text, const U &fallback, Qt::CaseSensitivity cs,
+                         bool *ok) const
+    {
+        return U(names().fromString(text, qint64(fallback), cs, ok));
+    }
+
+    /// The text of `value` for stored records: its name, else its number in the default locale.
+    QString textOf(E value) const { return toString(static_cast<U>(value), QLocale()); }
+
+    /// The value named `text`, case-sensitively, in stored records; anything else is the value 0.
+    E valueOf(const QString &text) const
+    {
+        return static_cast<E>(fromString(text, U(0), Qt::CaseSensitive, nullptr));
+    }
+};
+
+/// The runtime object of an enumeration of flags, whose values combine.
+template<typename E, typename U = std::underlying_type_t<E>>
+class VEnumBaseFlags : public VEnumBase<E, U>
+{
+public:
+    bool isFlags() const override { return true; }
+
+    /// As VEnumBase; a combination without a name is written as the names that make it up exactly.
+    QString toString(const U &value, const QLocale &locale) const override
+    {
+        return this->names().flagsToString(qint64(value), locale);
+    }
+
+    /// The union of the values named in the comma-separated `text`; a part that is no name adds
+    /// `fallback` and clears `*ok`.
+    U fromString(const QString &text, const U &fallback, Qt::CaseSensitivity cs,
+                 bool *ok) const override
+    {
+        return U(this->names().flagsFromString(text, qint64(fallback), cs, ok));
+    }
+};
+
+} // namespace Norvane
+
+/// Gives the scoped enumeration `Enum` the bit operations of flags.
+#define VCORE_DECLARE_FLAGS(Enum)                                                                  \
+    constexpr Enum operator|(Enum a, Enum b) { return Enum(int(a) | int(b)); }                     \
+    constexpr Enum operator&(Enum a, Enum b) { return Enum(int(a) & int(b)); }                     \
+    constexpr Enum operator~(Enum a) { return Enum(~int(a)); }                                     \
+    constexpr Enum &operator|=(Enum &a, Enum b) { return a = a | b; }                              \
+    constexpr Enum &operator&=(Enum &a, Enum b) { return a = a & b; }
+
+/// Declares the runtime class `Enum_T`, which derives from `Base` (VEnumBase or VEnumBaseFlags).
+///
+/// Its instance() is built at the first use, once, whatever the number of threads, and is destroyed
+/// when the library that holds it is unloaded.
+#define VCORE_DECLARE_ENUM_RUNTIME(EXPORT, Enum, Base)                                             \
+    class EXPORT Enum##_T final : public Norvane::Base<Enum>                                       \
+    {                                                                                              \
+    public:                                                                                        \
+        Enum##_T();                                                                                \
+        QString name() const override;                                                             \
+        static const Enum##_T &instance();                                                         \
+    };
+
+/// Defines `Enum_T`, filled from the VEnumEntry rows of `table` and then by the host's loader.
+#define VCORE_DEFINE_ENUM_RUNTIME(Enum, table)                                                     \
+    Enum##_T::Enum##_T()                                                                           \
+    {                                                                                              \
+        for (const auto &entry : table)                                                            \
+            names().add(qint64(entry.value), QString(entry.name));                                 \
+        if (auto *loader = Norvane::VEnumRuntimeLoader::loader(Enum##_T::name()))                  \
+            loader->applyTo(this);                                                                 \
+    }                                                                                              \
+    QString Enum##_T::name() const                                                                 \
+    {                                                                                              \
+        return QStringLiteral(#Enum);                                                              \
+    }                                                                                              \
+    const Enum##_T &Enum##_T::instance()                                                           \
+    {                                                                                              \
+        static const Enum##_T object;                                                              \
+        return object;                                                                             \
+    }

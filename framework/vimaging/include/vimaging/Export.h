@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+#if defined(VIMAGING_LIBRARY)
+#define VIMAGING_EXPORT Q_DECL_EXPORT
+#else
+#define VIMAGING_EXPORT Q_DECL_IMPORT
+#endif
