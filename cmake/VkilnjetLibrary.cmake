@@ -27,6 +27,7 @@ function(vkilnjet_add_library name)
         PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} $<BUILD_INTERFACE:vkilnjet_compiler>)
     string(TOUPPER ${name} upper)
     set_target_properties(${name} PROPERTIES
+        LINKER_LANGUAGE CXX
         DEFINE_SYMBOL ${upper}_LIBRARY
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON

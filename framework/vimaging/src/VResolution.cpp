@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include <vimaging/VResolution.h>
+
+#include <vcore/VConvert.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Imaging {
+
+VResolution::VResolution(double x, double y, ResolutionUnit unit)
+    : m_x(x)
+    , m_y(y)
+    , m_unit(unit)
+{
+}
+
+QJsonObject VResolution::toJsonObject() const
+{
+    return {{u"x"_s, m_x},
+            {u"y"_s, m_y},
+            {u"unit"_s, ResolutionUnit_T::instance().textOf(m_unit)}};
+}
+
+VResolution VResolution::fromJsonObject(const QJsonObject &object)
+{
+    return {object.value("x"_L1).toDouble(), object.value("y"_L1).toDouble(),
+            ResolutionUnit_T::instance().valueOf(object.value("unit"_L1).toString())};
+}
+
+QString VResolution::toString(const QLocale &locale) const
+{
+    return u"%1 x %2 %3"_s.arg(VConvert::toString(m_x, QString(), locale),
+                               VConvert::toString(m_y, QString(), locale),
+                               ResolutionUnit_T::instance().textOf(m_unit));
+}
+
+bool VResolution::operator==(const VResolution &other) const
+{
+    return m_x == other.m_x && m_y == other.m_y && m_unit == other.m_unit;
+}
+
+} // namespace Norvane::Imaging
