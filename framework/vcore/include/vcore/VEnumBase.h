@@ -4,6 +4,7 @@
 #pragma once
 
 #include <vcore/IVEnum.h>
+#include <vcore/VEnumFlags.h>
 
 #include <QtCore/QLatin1StringView>
 
@@ -75,14 +76,6 @@ public:
 };
 
 } // namespace Norvane
-
-/// Gives the scoped enumeration `Enum` the bit operations of flags.
-#define VCORE_DECLARE_FLAGS(Enum)                                                                  \
-    constexpr Enum operator|(Enum a, Enum b) { return Enum(int(a) | int(b)); }                     \
-    constexpr Enum operator&(Enum a, Enum b) { return Enum(int(a) & int(b)); }                     \
-    constexpr Enum operator~(Enum a) { return Enum(~int(a)); }                                     \
-    constexpr Enum &operator|=(Enum &a, Enum b) { return a = a | b; }                              \
-    constexpr Enum &operator&=(Enum &a, Enum b) { return a = a & b; }
 
 /// Declares the runtime class `Enum_T`, which derives from `Base` (VEnumBase or VEnumBaseFlags).
 ///

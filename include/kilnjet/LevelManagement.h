@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <QtCore/QMetaType>
+
+namespace Norvane::Kilnjet {
+
+/// How the output levels of a print unit are managed.
+///
+/// The values are packed 24-bit codes, not counted. Bits 16 to 21 hold the number of levels (2 for
+/// the binary modes, 3 for `Trilevel` and `TetraL3Masking`, 4 for `Legacy`, `Fixed` and `Dynamic`,
+/// 8, 12, 15 and 16 for the grayscale ones); the other bits are parameters of the mode for the
+/// screening engine, which this library stores and compares but does not interpret.
+enum class LevelManagement : int
+{
+    None = 0x0,
+    Legacy = 0x440804,
+    Fixed = 0x041044,
+    Dynamic = 0x041084,
+    Binary = 0x0208C4,
+    BinaryCustom = 0x420904,
+    Trilevel = 0x030D44,
+    TetraL3Masking = 0x030D84,
+    OctaGrayscale = 0x480808,
+    DodeGrayscale = 0x4C080C,
+    FiftGrayscale = 0x4F080F,
+    HexaGrayscale = 0x500810,
+};
+
+} // namespace Norvane::Kilnjet
+
+Q_DECLARE_METATYPE(Norvane::Kilnjet::LevelManagement)

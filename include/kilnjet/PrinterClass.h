@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <QtCore/QMetaType>
+
+namespace Norvane::Kilnjet {
+
+/// The family of machine that a printer driver describes.
+enum class PrinterClass : int
+{
+    Inkjet = 0, ///< Industrial inkjet machines.
+    Plotter = 1,
+    Engraver = 2, ///< Laser engravers.
+    Dryjet = 3, ///< Industrial dry-jet machines.
+    Develop = 4,
+    Unknown = 5,
+};
+
+} // namespace Norvane::Kilnjet
+
+Q_DECLARE_METATYPE(Norvane::Kilnjet::PrinterClass)

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <QtCore/QMetaType>
+
+namespace Norvane::Kilnjet {
+
+/// How a printer handles the faces of a tile design.
+enum class PrinterFacesMode : int
+{
+    None = 0,
+    Basic = 1,
+    Advanced = 2,
+};
+
+} // namespace Norvane::Kilnjet
+
+Q_DECLARE_METATYPE(Norvane::Kilnjet::PrinterFacesMode)
