@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include "enums/Channel_T.h"
+
+#include <vcore/VEnumRuntimeLoader.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane {
+
+namespace {
+constexpr VEnumEntry<Channel> kNames[] = {
+    {Channel::None, "None"_L1},
+    {Channel::Cyan, "Cyan"_L1},
+    {Channel::Magenta, "Magenta"_L1},
+    {Channel::Yellow, "Yellow"_L1},
+    {Channel::Black, "Black"_L1},
+    {Channel::Red, "Red"_L1},
+    {Channel::Green, "Green"_L1},
+    {Channel::Blue, "Blue"_L1},
+    {Channel::Aquamarine, "Aquamarine"_L1},
+    {Channel::Beige, "Beige"_L1},
+    {Channel::Brown, "Brown"_L1},
+    {Channel::Ocher, "Ocher"_L1},
+    {Channel::Orange, "Orange"_L1},
+    {Channel::Pink, "Pink"_L1},
+    {Channel::Purple, "Purple"_L1},
+    {Channel::SkyBlue, "SkyBlue"_L1},
+    {Channel::Violet, "Violet"_L1},
+    {Channel::Turquoise, "Turquoise"_L1},
+    {Channel::White, "White"_L1},
+    {Channel::LightCyan, "LightCyan"_L1},
+    {Channel::LightMagenta, "LightMagenta"_L1},
+    {Channel::LightYellow, "LightYellow"_L1},
+    {Channel::LightBlack, "LightBlack"_L1},
+    {Channel::DarkRed, "DarkRed"_L1},
+    {Channel::DarkGreen, "DarkGreen"_L1},
+    {Channel::DarkBlue, "DarkBlue"_L1},
+    {Channel::Alpha, "Alpha"_L1},
+    {Channel::Lightness, "Lightness"_L1},
+    {Channel::a, "a"_L1},
+    {Channel::b, "b"_L1},
+    {Channel::Sinker, "Sinker"_L1},
+    {Channel::Glaze, "Glaze"_L1},
+    {Channel::Frit, "Frit"_L1},
+    {Channel::Bond, "Bond"_L1},
+    {Channel::Matt, "Matt"_L1},
+    {Channel::Glossy, "Glossy"_L1},
+    {Channel::Luster, "Luster"_L1},
+    {Channel::Hydroactive, "Hydroactive"_L1},
+    {Channel::Interphase, "Interphase"_L1},
+    {Channel::Glue, "Glue"_L1},
+    {Channel::Metallized, "Metallized"_L1},
+    {Channel::Gold, "Gold"_L1},
+    {Channel::Silver, "Silver"_L1},
+    {Channel::Bronze, "Bronze"_L1},
+    {Channel::Blank, "Blank"_L1},
+    {Channel::Vision, "Vision"_L1},
+    {Channel::C1, "C1"_L1},
+    {Channel::C2, "C2"_L1},
+    {Channel::C3, "C3"_L1},
+    {Channel::C4, "C4"_L1},
+    {Channel::C5, "C5"_L1},
+    {Channel::C6, "C6"_L1},
+    {Channel::C7, "C7"_L1},
+    {Channel::C8, "C8"_L1},
+    {Channel::C9, "C9"_L1},
+    {Channel::CA, "CA"_L1},
+    {Channel::CB, "CB"_L1},
+    {Channel::CC, "CC"_L1},
+    {Channel::CD, "CD"_L1},
+    {Channel::CE, "CE"_L1},
+    {Channel::CF, "CF"_L1},
+    {Channel::CG, "CG"_L1},
+    {Channel::Layer1, "Layer1"_L1},
+    {Channel::Layer2, "Layer2"_L1},
+    {Channel::Layer3, "Layer3"_L1},
+    {Channel::Layer4, "Layer4"_L1},
+    {Channel::Layer5, "Layer5"_L1},
+    {Channel::Layer6, "Layer6"_L1},
+    {Channel::Layer7, "Layer7"_L1},
+    {Channel::Layer8, "Layer8"_L1},
+    {Channel::Layer9, "Layer9"_L1},
+    {Channel::Powder1, "Powder1"_L1},
+    {Channel::Powder2, "Powder2"_L1},
+    {Channel::Powder3, "Powder3"_L1},
+    {Channel::Powder4, "Powder4"_L1},
+    {Channel::Powder5, "Powder5"_L1},
+    {Channel::Powder6, "Powder6"_L1},
+    {Channel::Powder7, "Powder7"_L1},
+    {Channel::Powder8, "Powder8"_L1},
+    {Channel::Powder9, "Powder9"_L1},
+    {Channel::Unknown, "Unknown"_L1},
+};
+} // namespace
+
+VCORE_DEFINE_ENUM_RUNTIME(Channel, kNames)
+
+} // namespace Norvane

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <kilnjet/LevelManagement.h>
+#include <vcore/VEnumBase.h>
+
+namespace Norvane::Kilnjet {
+
+VCORE_DECLARE_ENUM_RUNTIME(, LevelManagement, VEnumBase)
+
+} // namespace Norvane::Kilnjet
