@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <kilnjet/ElaborationType.h>
+#include <kilnjet/Export.h>
+#include <kilnjet/LevelManagement.h>
+#include <kilnjet/VMagnificationLimits.h>
+#include <vcommon/VDeviceConfig.h>
+#include <vimaging/VResolution.h>
+
+#include <QtCore/QList>
+#include <QtCore/QUuid>
+
+namespace Norvane::Kilnjet {
+
+/// One elaboration (screening, halftoning) that can be applied to an image before it is printed.
+///
+/// | JSON key                 | Accessor                  | JSON type         | Fallback |
+/// |--------------------------|---------------------------|-------------------|----------|
+/// | "elaborationType"        | elaborationType()         | string            | `None`   |
+/// | "levelManagementList"    | levelManagementList()     | array of strings  | empty; a bad
+/// element is `None` | | "resolutionList"         | resolutionList()          | array of objects  |
+/// empty; a bad element is all 0 | | "scrollRatioList"        | scrollRatioList()         | array
+/// of numbers  | empty; a bad element is 0.0 | | "magnificationMin"       | magnification().first
+/// | number            | 0.0      | | "magnificationMax"       | magnification().second    | number
+/// | 0.0      | | "allowOnlineElaboration" | allowOnlineElaboration()  | boolean           | false
+/// | | "prefered"               | isPrefered()              | boolean           | false    |
+///
+/// The spelling of "prefered" belongs to the stored format. The content id is the device id. A
+/// record is valid with a device id, a type other than `None`, a level management and a resolution;
+/// it is empty without level managements and resolutions, when its base is.
+///
+/// Threads: one at a time for one object; copies may live on different threads.
+/// Failures: reading falls back as the table says and never fails; nothing throws.
+class VKILNJET_EXPORT VElaborationDriver : public Hardware::VDeviceConfig
+{
+public:
+    /// A record of the current format version, 1.0.0, with the null device id.
+    VElaborationDriver();
+    explicit VElaborationDriver(const QUuid &deviceId);
+    VElaborationDriver(const VElaborationDriver &other);
+    VElaborationDriver &operator=(const VElaborationDriver &other);
+    ~VElaborationDriver() override;
+
+    /// Equal fields and equal bases. Lists compare in order, scroll ratios bit for bit (0.0 and
+    /// -0.0 differ, a NaN equals itself), magnifications as numbers (0.0 and -0.0 are equal, a NaN
+    /// is not).
+    bool operator==(const VElaborationDriver &other) const;
+    bool operator!=(const VElaborationDriver &other) const { return !(*this == other); }
+
+    Interfaces::ICloneable *clone() const override;
+    /// {488e105b-5aac-427d-92d3-1de3f94f8c7f}, whatever the record.
+    QUuid id() const override;
+    bool equalsTo(const Interfaces::IEquatable *other) const override;
+
+    /// Whether the elaboration may run while printing online.
+    bool allowOnlineElaboration() const;
+    void setAllowOnlineElaboration(bool allow);
+    /// Whether this is the method to offer first.
+    bool isPrefered() const;
+    void setPrefered(bool prefered);
+    /// The screening method.
+    ElaborationType elaborationType() const;
+    void setElaborationType(const ElaborationType &type);
+    /// The magnifications between which the elaboration may scale.
+    VMagnificationLimits magnification() const;
+    void setMagnification(const VMagnificationLimits &limits);
+    /// The ways of managing output levels that the method supports.
+    QList<LevelManagement> levelManagementList() const;
+    void setLevelManagementList(const QList<LevelManagement> &list);
+    /// The scroll ratios that the method accepts. JSON has no negative zero and no NaN: a ratio of
+    /// -0.0 or NaN comes back from it as 0.0.
+    QList<double> scrollRatioList() const;
+    void setScrollRatioList(const QList<double> &list);
+    /// The resolutions that the method supports.
+    QList<Imaging::VResolution> resolutionList() const;
+    void setResolutionList(const QList<Imaging::VResolution> &list);
+
+protected:
+    QJsonObject toInnerJsonObject() const override;
+    bool setInnerJsonObject(const QJsonObject &object) override;
+    bool innerIsValid() const override;
+    bool innerIsEmpty() const override;
+
+private:
+    bool m_allowOnlineElaboration = false;
+    bool m_prefered = false;
+    ElaborationType m_elaborationType = ElaborationType::None;
+    VMagnificationLimits m_magnification;
+    QList<LevelManagement> m_levelManagementList;
+    QList<double> m_scrollRatioList;
+    QList<Imaging::VResolution> m_resolutionList;
+};
+
+} // namespace Norvane::Kilnjet

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <kilnjet/Export.h>
+#include <kilnjet/PrinterClass.h>
+#include <kilnjet/PrinterFacesMode.h>
+#include <kilnjet/PrinterFileCompression.h>
+#include <kilnjet/PrinterFileProtection.h>
+#include <vcommon/VDeviceConfig.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QSharedDataPointer>
+#include <QtCore/QString>
+#include <QtCore/QUuid>
+#include <QtGui/QIcon>
+
+namespace Norvane::Kilnjet {
+
+class VPrinterDriverPrivate;
+
+/// One printing machine: its family, how files are sent to it, its limits and its icon. Its print
+/// units and elaborations are its children.
+///
+/// | JSON key              | Accessor               | JSON type        | Fallback              |
+/// |-----------------------|------------------------|------------------|-----------------------|
+/// | "fileProtection"      | fileProtection()       | string           | `None`                |
+/// | "fileCompression"     | fileCompression()      | string           | `None`                |
+/// | "printerClass"        | printerClass()         | string           | `Inkjet`, the value 0 |
+/// | "facesMode"           | facesMode()            | string           | `None`                |
+/// | "maximumImageBytes"   | maximumImageBytes()    | string of digits | 9223372036854775807; text
+/// that is no number: 0 | | "maximumFaces"        | maximumFaces()         | number           | 0 |
+/// | "experimental"        | experimental()         | boolean          | false                 |
+/// | "onlineElaboration"   | onlineElaboration()    | boolean          | false                 |
+/// | "onlineLinearization" | onlineLinearizations() | boolean          | false                 |
+/// | "icon"                | icon()                 | array of {"format": "png", "data": Base64} |
+/// empty icon | | "svgIcon"             | icon()                 | string, Base64 of the compressed
+/// SVG | empty   |
+///
+/// The fallback of "printerClass" differs from a new driver's `Unknown`, and "onlineLinearization"
+/// has no final s: stored records rely on both. A driver has either images or an SVG document;
+/// "svgIcon" wins when both are there.
+///
+/// The content id is the version 5 UUID, in the namespace of the device id, of faces mode, printer
+/// class and maximum faces joined by ";", such as "Basic;Inkjet;4". No other field takes part. A
+/// driver is valid with a device id and at least one child.
+///
+/// Stored images are decoded when someone looks at them, not before: reading, copying, validating
+/// and writing drivers works in a process without a GUI and on any thread.
+///
+/// Threads: one at a time for one object; copies may live on different threads.
+/// Failures: reading falls back as the table says and never fails, and images that cannot be
+/// decoded are skipped; nothing throws.
+class VKILNJET_EXPORT VPrinterDriver : public Hardware::VDeviceConfig
+{
+public:
+    /// A driver of the current format version, 1.2.1, with the null device id.
+    VPrinterDriver();
+    explicit VPrinterDriver(const QUuid &deviceId);
+    VPrinterDriver(const VPrinterDriver &other);
+    VPrinterDriver &operator=(const VPrinterDriver &other);
+    ~VPrinterDriver() override;
+
+    /// Equal fields, icons and bases. The icons are compared over the sizes that this driver's
+    /// images have: without any, it equals whatever images `other` has, though not the other way
+    /// round.
+    bool operator==(const VPrinterDriver &other) const;
+    bool operator!=(const VPrinterDriver &other) const { return !(*this == other); }
+
+    Interfaces::ICloneable *clone() const override;
+    /// {06b1a6eb-628e-45e5-8d80-eb92a4f22e4e}, whatever the driver.
+    QUuid id() const override;
+    bool equalsTo(const Interfaces::IEquatable *other) const override;
+
+    /// The family of machine.
+    PrinterClass printerClass() const;
+    void setPrinterClass(const PrinterClass &printerClass);
+    /// How the machine handles the faces of a tile design.
+    PrinterFacesMode facesMode() const;
+    void setFacesMode(const PrinterFacesMode &mode);
+    /// The compression of the files sent to the machine.
+    PrinterFileCompression fileCompression() const;
+    void setFileCompression(const PrinterFileCompression &compression);
+    /// The protection of the files sent to the machine.
+    PrinterFileProtection fileProtection() const;
+    void setFileProtection(const PrinterFileProtection &protection);
+    /// The largest number of faces that the machine accepts.
+    int maximumFaces() const;
+    void setMaximumFaces(int faces);
+    /// The largest image that the machine accepts, in bytes.
+    qint64 maximumImageBytes() const;
+    void setMaximumImageBytes(qint64 bytes);
+    /// Whether elaboration is done online.
+    bool onlineElaboration() const;
+    void setOnlineElaboration(bool online);
+    /// Whether linearisations are applied online.
+    bool onlineLinearizations() const;
+    void setOnlineLinearizations(bool online);
+    /// Whether the driver is not for production yet.
+    bool experimental() const;
+    void setExperimental(bool experimental);
+
+    /// The icon. One from an SVG document is drawn anew at each call, at 16 to 1024 pixels. Empty
+    /// in a process without a QGuiApplication.
+    QIcon icon() const;
+    /// Takes the images of `icon`; an SVG document is dropped.
+    void setIcon(const QIcon &icon);
+    /// Reads the icon from a file: an SVG document when its suffix is "svg" in any case, else an
+    /// image. An SVG file that cannot be opened changes nothing.
+    void setIcon(const QString &path);
+
+protected:
+    QJsonObject toInnerJsonObject() const override;
+    bool setInnerJsonObject(const QJsonObject &object) override;
+    QUuid innerDataId(bool *ok) const override;
+    bool innerIsValid() const override;
+
+private:
+    VPrinterDriverPrivate &own();
+    void setSvgIcon(const QByteArray &svg);
+
+    QExplicitlySharedDataPointer<VPrinterDriverPrivate> d;
+};
+
+} // namespace Norvane::Kilnjet
