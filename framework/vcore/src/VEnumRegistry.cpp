@@ -3,18 +3,13 @@
 
 #include <vcore/VEnumRegistry.h>
 
-#include <QtCore/QMap>
-#include <QtCore/QReadWriteLock>
+#include "FunctionRegistry.h"
 
 namespace Norvane {
 
 namespace {
 
-struct Registry
-{
-    QReadWriteLock lock;
-    QMap<QString, VEnumRegistry::Accessor> accessors;
-};
+using Registry = FunctionRegistry<QString, VEnumRegistry::Accessor>;
 
 /// Never destroyed: libraries register and unregister while the process is going down.
 Registry &registry()
@@ -27,32 +22,24 @@ Registry &registry()
 
 void VEnumRegistry::insert(const QString &shortName, Accessor accessor)
 {
-    const QWriteLocker locker(&registry().lock);
-    registry().accessors.insert(shortName, accessor);
+    registry().insert(shortName, accessor);
 }
 
 void VEnumRegistry::remove(const QString &shortName, Accessor accessor)
 {
-    const QWriteLocker locker(&registry().lock);
-    if (registry().accessors.value(shortName, nullptr) == accessor)
-        registry().accessors.remove(shortName);
+    registry().remove(shortName, accessor);
 }
 
 const IVEnum *VEnumRegistry::find(const QString &shortName)
 {
-    Accessor accessor = nullptr;
-    {
-        const QReadLocker locker(&registry().lock);
-        accessor = registry().accessors.value(shortName, nullptr);
-    }
-    // Outside the lock: building the object may run a host's loader.
+    // Called without a lock held: building the object may run a host's loader.
+    const Accessor accessor = registry().find(shortName);
     return accessor == nullptr ? nullptr : &accessor();
 }
 
 QStringList VEnumRegistry::names()
 {
-    const QReadLocker locker(&registry().lock);
-    return registry().accessors.keys();
+    return registry().keys();
 }
 
 } // namespace Norvane

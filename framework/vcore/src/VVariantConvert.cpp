@@ -3,19 +3,13 @@
 
 #include <vcore/VVariantConvert.h>
 
-#include <QtCore/QHash>
-#include <QtCore/QReadLocker>
-#include <QtCore/QReadWriteLock>
+#include "FunctionRegistry.h"
 
 namespace Norvane {
 
 namespace {
 
-struct Registry
-{
-    QReadWriteLock lock;
-    QHash<int, VVariantConvert::Converter> converters;
-};
+using Registry = FunctionRegistry<int, VVariantConvert::Converter>;
 
 /// Never destroyed: libraries register and unregister while the process is going down.
 Registry &registry()
@@ -28,21 +22,17 @@ Registry &registry()
 
 void VVariantConvert::sVariantToStringRegister(int metaTypeId, Converter converter)
 {
-    const QWriteLocker locker(&registry().lock);
-    registry().converters.insert(metaTypeId, converter);
+    registry().insert(metaTypeId, converter);
 }
 
 void VVariantConvert::sVariantToStringUnregister(int metaTypeId, Converter converter)
 {
-    const QWriteLocker locker(&registry().lock);
-    if (registry().converters.value(metaTypeId, nullptr) == converter)
-        registry().converters.remove(metaTypeId);
+    registry().remove(metaTypeId, converter);
 }
 
 VVariantConvert::Converter VVariantConvert::converter(int metaTypeId)
 {
-    const QReadLocker locker(&registry().lock);
-    return registry().converters.value(metaTypeId, nullptr);
+    return registry().find(metaTypeId);
 }
 
 } // namespace Norvane

@@ -7,6 +7,7 @@
 #include <vcore/VEnumFlags.h>
 
 #include <QtCore/QLatin1StringView>
+#include <QtCore/QVariant>
 
 #include <type_traits>
 
@@ -27,6 +28,8 @@ template<typename E, typename U = std::underlying_type_t<E>>
 class VEnumBase : public IVEnum
 {
 public:
+    using Enum = E;
+
     bool isFlags() const override { return false; }
 
     /// The name of `value`; without one, the number as `locale` writes it.
@@ -50,6 +53,14 @@ public:
     E valueOf(const QString &text) const
     {
         return static_cast<E>(fromString(text, U(0), Qt::CaseSensitive, nullptr));
+    }
+
+protected:
+    /// The text of the `E` in `value`, read in place: a conversion would go through the meta-type
+    /// system and could fail.
+    QString variantToString(const QVariant &value, const QLocale &locale) const
+    {
+        return toString(static_cast<U>(*static_cast<const E *>(value.constData())), locale);
     }
 };
 
@@ -80,14 +91,19 @@ public:
 /// Declares the runtime class `Enum_T`, which derives from `Base` (VEnumBase or VEnumBaseFlags).
 ///
 /// Its instance() is built at the first use, once, whatever the number of threads, and is destroyed
-/// when the library that holds it is unloaded.
+/// when the library that holds it is unloaded. object() is the same object for those who do not
+/// know its class, and convert() writes a variant that holds an `Enum`; its format has no meaning.
 #define VCORE_DECLARE_ENUM_RUNTIME(EXPORT, Enum, Base)                                             \
     class EXPORT Enum##_T final : public Norvane::Base<Enum>                                       \
     {                                                                                              \
     public:                                                                                        \
+        static constexpr QLatin1StringView kShortName{#Enum};                                      \
         Enum##_T();                                                                                \
         QString name() const override;                                                             \
         static const Enum##_T &instance();                                                         \
+        static const Norvane::IVEnum &object();                                                    \
+        static QString convert(const QVariant &value, const QString &format,                       \
+                               const QLocale &locale);                                             \
     };
 
 /// Defines `Enum_T`, filled from the VEnumEntry rows of `table` and then by the host's loader.
@@ -107,4 +123,12 @@ public:
     {                                                                                              \
         static const Enum##_T object;                                                              \
         return object;                                                                             \
+    }                                                                                              \
+    const Norvane::IVEnum &Enum##_T::object()                                                      \
+    {                                                                                              \
+        return instance();                                                                         \
+    }                                                                                              \
+    QString Enum##_T::convert(const QVariant &value, const QString &, const QLocale &locale)       \
+    {                                                                                              \
+        return instance().variantToString(value, locale);                                          \
     }

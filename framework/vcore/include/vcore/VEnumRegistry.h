@@ -3,10 +3,8 @@
 
 #pragma once
 
-#include <vcore/VEnumBase.h>
-#include <vcore/VVariantConvert.h>
+#include <vcore/IVEnum.h>
 
-#include <QtCore/QMetaType>
 #include <QtCore/QStringList>
 
 namespace Norvane {
@@ -24,7 +22,7 @@ public:
 
     /// Makes an enumeration known under its short name; a later one of that name replaces it.
     static void insert(const QString &shortName, Accessor accessor);
-    /// Takes `accessor` out again, unless another one has replaced it since.
+    /// Takes `accessor` out again, as often as it was inserted, unless another one has replaced it.
     static void remove(const QString &shortName, Accessor accessor);
 
     /// The enumeration with the short name, or null.
@@ -32,22 +30,5 @@ public:
     /// The short names of all known enumerations, in alphabetical order.
     static QStringList names();
 };
-
-/// Writes a variant that holds an `E` as the name of its value; `format` has no meaning here.
-template<typename E, typename Runtime>
-QString enumToString(const QVariant &value, const QString &format, const QLocale &locale)
-{
-    Q_UNUSED(format)
-    // Read in place: converting would go through the meta-type system and could fail.
-    const E number = *static_cast<const E *>(value.constData());
-    return Runtime::instance().toString(static_cast<std::underlying_type_t<E>>(number), locale);
-}
-
-/// The runtime object as the directory wants it.
-template<typename Runtime>
-const IVEnum &enumAccessor()
-{
-    return Runtime::instance();
-}
 
 } // namespace Norvane

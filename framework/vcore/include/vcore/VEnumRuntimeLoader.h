@@ -17,14 +17,15 @@ public:
     virtual QString name() const = 0;
 
     /// Adds names to `object`, which the library has just filled. Called once, in whichever thread
-    /// uses the enumeration first.
+    /// uses the enumeration first, while other threads that need it wait: it must not convert values
+    /// of this enumeration itself.
     virtual void applyTo(IVEnum *object) = 0;
 };
 
 /// The process-wide registry of run-time loaders, by the enumeration's short name.
 ///
-/// A loader must be registered before the enumeration is used for the first time; it stays its
-/// owner's and must live until it is removed.
+/// A loader must be registered before the enumeration is used for the first time. It stays its
+/// owner's, who removes it before deleting it, and not while the enumeration may be built.
 /// Threads: every operation from any thread.
 class VCORE_EXPORT VEnumRuntimeLoader
 {

@@ -24,7 +24,8 @@ public:
     /// Registers `converter` for the meta-type `metaTypeId`; a later registration replaces it.
     static void sVariantToStringRegister(int metaTypeId, Converter converter);
 
-    /// Takes `converter` out again, unless another one has replaced it since.
+    /// Takes `converter` out again, as often as it was registered, unless another one has replaced
+    /// it since: libraries that registered the same one do not take it away from each other.
     static void sVariantToStringUnregister(int metaTypeId, Converter converter);
 
     /// The converter of the meta-type, or null.
