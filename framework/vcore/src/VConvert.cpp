@@ -59,10 +59,14 @@ QString VConvert::toString(const QVariant &value, const QLocale &locale)
         return value.toString();
     case QMetaType::Double:
         return toString(value.toDouble(), QString(), locale);
+    case QMetaType::Short:
     case QMetaType::Int:
+    case QMetaType::Long:
     case QMetaType::LongLong:
         return toString(value.toLongLong(), locale);
+    case QMetaType::UShort:
     case QMetaType::UInt:
+    case QMetaType::ULong:
     case QMetaType::ULongLong:
         return locale.toString(value.toULongLong());
     default:
@@ -72,6 +76,8 @@ QString VConvert::toString(const QVariant &value, const QLocale &locale)
 
 qint64 VConvert::toInt64(const QString &text, const QLocale &locale, int base)
 {
+    if (base < 2 || base > 36)
+        return 0; // Qt would complain on the standard error stream.
     bool ok = false;
     const qint64 value = base == 10 ? locale.toLongLong(text, &ok) : text.toLongLong(&ok, base);
     return ok ? value : 0;

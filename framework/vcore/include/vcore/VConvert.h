@@ -25,11 +25,12 @@ public:
     static QString toString(const double &value, const QString &format, const QLocale &locale);
 
     /// The value as text: through the converter registered for its type (VVariantConvert), as
-    /// `locale` writes it for numbers, else as QVariant does. A null variant gives an empty text.
+    /// `locale` writes integers and doubles, else as QVariant does. A null variant gives an empty
+    /// text.
     static QString toString(const QVariant &value, const QLocale &locale);
 
     /// The integer that `text` shows; 0 when it is no number or does not fit. Base 10 is read as
-    /// `locale` writes it, any other base (2 to 36) in plain digits.
+    /// `locale` writes it, any other base (2 to 36) in plain digits; there is no other base.
     static qint64 toInt64(const QString &text, const QLocale &locale, int base = 10);
 };
 
