@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <vcore/VEnumBase.h>
+
+#include <QtCore/QMetaType>
+
+namespace Norvane {
+
+/// The outline of an icon.
+enum class IconStyle : int
+{
+    ApplicationDefault = 0, ///< What the application uses elsewhere.
+    Square = 1,
+    Round = 2,
+    RoundedSquare = 3,
+};
+
+VCORE_DECLARE_ENUM_RUNTIME(VCORE_EXPORT, IconStyle, VEnumBase)
+
+} // namespace Norvane
+
+Q_DECLARE_METATYPE(Norvane::IconStyle)
