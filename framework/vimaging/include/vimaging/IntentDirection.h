@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <vcore/VEnumBase.h>
+#include <vimaging/Export.h>
+
+#include <QtCore/QMetaType>
+
+namespace Norvane::ColorManagement::LittleCMS {
+
+/// The part of a colour transformation that a rendering intent is for.
+enum class IntentDirection : int
+{
+    Input = 0,
+    Output = 1,
+    Proof = 2,
+    InputOutput = 3,
+    All = 4,
+};
+
+VCORE_DECLARE_ENUM_RUNTIME(VIMAGING_EXPORT, IntentDirection, VEnumBase)
+
+} // namespace Norvane::ColorManagement::LittleCMS
+
+Q_DECLARE_METATYPE(Norvane::ColorManagement::LittleCMS::IntentDirection)
