@@ -33,6 +33,13 @@ function(vkilnjet_add_library name)
         VISIBILITY_INLINES_HIDDEN ON
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
+    # Hidden visibility does not reach the instances of other libraries' templates: std:: is visible
+    # by decree of its headers.
+    if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT VKILNJET_SANITIZE)
+        set(exports "${PROJECT_SOURCE_DIR}/cmake/exports.map")
+        target_link_options(${name} PRIVATE "LINKER:--version-script=${exports}")
+        set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS "${exports}")
+    endif()
 
     set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${name}")
     install(TARGETS ${name} EXPORT ${name}Targets
