@@ -17,8 +17,7 @@ public:
     explicit VDBField(const QVariant &value)
         : m_value(value)
         , m_found(true)
-    {
-    }
+    { }
 
     /// True when the record has the field, even if its value is null.
     bool isFound() const { return m_found; }

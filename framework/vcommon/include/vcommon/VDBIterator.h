@@ -18,8 +18,7 @@ public:
     VDBIterator(IVDatabase &database, const VDBRecord &record)
         : m_database(&database)
         , m_record(record)
-    {
-    }
+    { }
 
     /// The current record; null at the end.
     VDBRecord &operator*() { return m_record; }
@@ -31,8 +30,7 @@ public:
     }
     bool operator==(const VDBIterator &other) const
     {
-        return m_record.isNull() == other.m_record.isNull()
-            && m_record.line() == other.m_record.line();
+        return m_record.offset() == other.m_record.offset();
     }
     bool operator!=(const VDBIterator &other) const { return !(*this == other); }
 

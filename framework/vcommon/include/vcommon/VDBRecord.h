@@ -13,7 +13,7 @@
 namespace Norvane::Database {
 
 class VDBRecordData;
-class VDBText;
+class VDBTextPrivate;
 
 /// One record of a text database: fields in order, each a key and a value.
 ///
@@ -44,12 +44,14 @@ public:
 
     /// The line of the file on which the record stands, from 1; 0 when it is in no file.
     qint64 line() const;
+    /// Where that line begins in the file, in bytes; -1 when it is in no file.
+    qint64 offset() const;
 
     /// The key of the field that names the locale of the values.
     static QString cultureKey();
 
 private:
-    friend class VDBText;
+    friend class VDBTextPrivate;
     QSharedDataPointer<VDBRecordData> d;
 };
 

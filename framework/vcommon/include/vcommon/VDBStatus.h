@@ -12,11 +12,13 @@
 namespace Norvane::Database {
 
 /// How the last operation of a text database ended.
-enum class VDBStatus {
+enum class VDBStatus
+{
     Ok,
     NoDevice, ///< There is no device to work on.
     NotFound, ///< The file does not exist.
     Io, ///< The system refused to open, read, write or sync; VDBText::errorString() says why.
+    Empty, ///< There is no content yet, or only what a crash left of a creation: create() may go on.
     NotEmpty, ///< create() met a file that has content.
     NotADatabase, ///< The content is not of this format.
     DamagedHeader, ///< The file is of this format, but both copies of its header are damaged.
@@ -29,7 +31,8 @@ enum class VDBStatus {
 /// One stretch of a file that the reader could not use.
 struct VDBDamage
 {
-    enum class Reason {
+    enum class Reason
+    {
         BadSignature, ///< A record whose signature does not match its content.
         NotALine, ///< Bytes that are no line of the format: garbage, NULs, a torn line.
         BadLineEnd, ///< A sound line that does not end in a single line feed; nothing is lost.

@@ -37,9 +37,11 @@ class VCOMMON_EXPORT VDBText final : public IVDatabase
 {
 public:
     /// Options of create(), to be combined.
-    enum Option {
+    enum Option
+    {
         WithCulture = 1, ///< Each record names the locale of its values.
-        WithSignature = 2, ///< Each record is signed. Always so; kept in the header for other programs.
+        WithSignature =
+            2, ///< Each record is signed. Always so; kept in the header for other programs.
     };
 
     VDBText();
@@ -51,8 +53,8 @@ public:
     [[nodiscard]] bool create(QIODevice *device, const QString &keyField, const int &option,
                               const QLocale &locale, const QString &format) override;
     void setKey(const QString &key, const QString &extra) override;
-    void insert(const VDBRecord &record) override;
-    void remove(const QString &id) override;
+    bool insert(const VDBRecord &record) override;
+    bool remove(const QString &id) override;
     [[nodiscard]] bool purge() override;
     bool contains(const QString &id) override;
     void first(VDBRecord &record) override;

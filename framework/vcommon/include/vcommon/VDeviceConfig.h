@@ -5,10 +5,11 @@
 
 #include <vcommon/IVDeviceConfig.h>
 
-#include <memory>
+#include <QtCore/QSharedDataPointer>
 
 namespace Norvane::Hardware {
 
+class VDeviceConfigChildren;
 class VDeviceConfigPrivate;
 
 /// The base of every device configuration: the envelope around a class's own fields.
@@ -119,7 +120,14 @@ protected:
     QUuid storedId() const;
 
 private:
-    std::unique_ptr<VDeviceConfigPrivate> d;
+    friend class VDeviceConfigChildren;
+
+    VDeviceConfigPrivate &own();
+    VDeviceConfigChildren &ownChildren() const;
+
+    QExplicitlySharedDataPointer<VDeviceConfigPrivate> d;
+    mutable QExplicitlySharedDataPointer<VDeviceConfigChildren> m_children;
+    QExplicitlySharedDataPointer<VDeviceConfigChildren> m_replaced;
 };
 
 } // namespace Norvane::Hardware

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include "VDBFormat.h"
+
+#include <vcommon/VDBRecord.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QLocale>
+
+#include <vector>
+
+namespace Norvane::Database {
+
+/// The name that a stored locale goes by: "en-US".
+QString cultureName(const QLocale &locale);
+/// The locale of that name, which writes numbers without group separators.
+QLocale cultureLocale(const QString &name);
+
+/// The changes between open() and close(): for each key the last thing that was asked for.
+class Batch
+{
+public:
+    bool isEmpty() const { return m_changes.empty(); }
+    void clear();
+
+    /// Whether the batch holds a record under the key; nothing when it says nothing about it.
+    std::optional<bool> contains(const QString &id) const;
+    void insert(const QString &id, const QByteArray &payload);
+    /// `wasStored` tells whether there is something in the file to be removed.
+    void remove(const QString &id, bool wasStored);
+    /// The keys that the batch leaves stored, and those that it removes.
+    template<typename Visitor>
+    void visit(Visitor visitor) const
+    {
+        for (const Change &change : m_changes)
+            visitor(change.id, change.kind == LineKind::Insert);
+    }
+
+    /// The lines of the batch with their commit line.
+    QByteArray encode(const Signer &signer) const;
+
+private:
+    struct Change
+    {
+        QString id;
+        LineKind kind;
+        QByteArray payload;
+    };
+
+    std::vector<Change> m_changes;
+    QHash<QString, std::size_t> m_byId;
+};
+
+/// The commit line for `count` lines whose sums, in order, are `sums`.
+QByteArray encodeCommit(std::size_t count, const QByteArray &sums, const Signer &signer);
+
+/// The payload of an insert line: the culture, if it is kept, and the fields of the record as text.
+QByteArray encodeRecord(const VDBRecord &record, const QString &culture);
+
+} // namespace Norvane::Database

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QByteArrayView>
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include <optional>
+
+// The bytes of the text database. docs/file-format.md describes them; the two change together.
+
+namespace Norvane::Database {
+
+/// The first word of every file, and of each copy of its header.
+constexpr char kMagic[] = "vdbtext";
+/// The version of the format that this program writes and reads.
+constexpr int kFormatVersion = 1;
+/// No header is longer: what is longer and has no line end is no torn header.
+constexpr qsizetype kMaxHeaderSize = 2048;
+
+/// The first byte of a line says what the line is.
+enum class LineKind : char
+{
+    Insert = '+',
+    Remove = '-',
+    Commit = '=',
+    Seal = '.', ///< The batch before it is known to be on the disk.
+    Void = '~', ///< What stands before it since the last batch was never completed.
+};
+
+/// One field of a line: a key, and a value that may be null.
+struct FormatField
+{
+    QString key;
+    std::optional<QString> value;
+};
+
+/// Appends `text` with what would end a field or a line written as an escape.
+void appendEscaped(QByteArray &bytes, const QString &text, bool isKey = false);
+/// Reads what appendEscaped() wrote; a broken escape stands for itself.
+QString unescaped(QByteArrayView bytes);
+
+/// Writes fields as "key=value" joined by tabs; a field with a null value is its key alone.
+QByteArray encodeFields(const QList<FormatField> &fields);
+QList<FormatField> decodeFields(QByteArrayView payload);
+/// The value of the first field `key`; a null text when it is missing or null. Decodes nothing else.
+QString findField(QByteArrayView payload, const QString &key);
+
+/// The checks of lines: a sum that anyone can verify, and a code that only a key's holder can make.
+class Signer
+{
+public:
+    /// An empty key signs with sums alone.
+    explicit Signer(const QString &key = QString());
+
+    bool isKeyed() const { return !m_key.isEmpty(); }
+    /// Tells this key from others, without telling the key. Empty without a key.
+    QByteArray keyCheck() const;
+    /// The sum of a line, as text: 43 characters.
+    static QByteArray sum(LineKind kind, QByteArrayView payload);
+    static QByteArray sum(QByteArrayView bytes);
+    /// The code for a sum under the key, as text; "-" without a key.
+    QByteArray code(QByteArrayView sum) const;
+
+private:
+    QByteArray m_key;
+};
+
+/// What stands in a header.
+struct Header
+{
+    QString keyField;
+    int options = 0;
+    QString locale;
+    QString format;
+    QByteArray keyCheck;
+};
+
+/// One copy of the header, without its line end.
+QByteArray encodeHeader(const Header &header);
+/// Reads one copy; nothing when it is damaged or of another version.
+std::optional<Header> decodeHeader(QByteArrayView line);
+/// The version that a header line claims to be of; 0 when it is no header line.
+int headerVersion(QByteArrayView line);
+
+/// One whole line with its line end.
+QByteArray encodeLine(LineKind kind, QByteArrayView payload, const Signer &signer);
+
+/// A line taken apart. All views are into the bytes that were read.
+struct Line
+{
+    LineKind kind = LineKind::Insert;
+    QByteArrayView sum;
+    QByteArrayView code;
+    QByteArrayView payload;
+    qsizetype statedEnd =
+        -1; ///< Where the stated length ends in the view given; -1 when unreadable.
+};
+
+/// Takes a line of the kinds +, - and = apart, up to the end of `bytes`, without checking it;
+/// nothing when it does not have that shape.
+std::optional<Line> splitLine(QByteArrayView bytes);
+
+} // namespace Norvane::Database

@@ -1,0 +1,438 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include "VDBScanner.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Database {
+
+namespace {
+
+using Reason = VDBDamage::Reason;
+
+/// Where the header was found, and where the lines after it begin.
+struct HeaderPlace
+{
+    VDBStatus status = VDBStatus::Ok;
+    qsizetype end = 0;
+    bool firstIsSound = true;
+};
+
+/// The line of `bytes` that begins at `begin`, without its line end.
+QByteArrayView lineAt(QByteArrayView bytes, qsizetype begin)
+{
+    const qsizetype end = bytes.indexOf('\n', begin);
+    QByteArrayView line = end < 0 ? bytes.sliced(begin) : bytes.sliced(begin, end - begin);
+    return line.endsWith('\r') ? line.chopped(1) : line;
+}
+
+/// True for what a crash during creation can leave: a strict prefix of the two header copies, or as
+/// many NULs. Neither can hold a record.
+bool isTornHeader(QByteArrayView bytes)
+{
+    if (bytes.size() > 2 * kMaxHeaderSize)
+        return false;
+    if (std::all_of(bytes.begin(), bytes.end(), [](char c) { return c == '\0'; }))
+        return bytes.size() <= kMaxHeaderSize / 4;
+    const QByteArrayView first = lineAt(bytes, 0);
+    if (bytes.indexOf('\n') >= 0) {
+        const QByteArray whole = first.toByteArray() + '\n' + first.toByteArray() + '\n';
+        return decodeHeader(first) && bytes.size() < whole.size() && whole.startsWith(bytes);
+    }
+    const QByteArray start = QByteArray(kMagic) + '\t' + QByteArray::number(kFormatVersion) + '\t';
+    const bool printable = std::all_of(bytes.begin(), bytes.end(),
+                                       [](char c) { return uchar(c) >= 0x20 || c == '\t'; });
+    return bytes.size() <= kMaxHeaderSize && printable
+        && (start.startsWith(bytes) || bytes.startsWith(start));
+}
+
+/// Reads the header from whichever of its two copies is sound.
+HeaderPlace readHeader(QByteArrayView bytes, Contents &contents)
+{
+    HeaderPlace place;
+    const QByteArray start = QByteArray(kMagic) + '\t';
+    const QByteArrayView first = lineAt(bytes, 0);
+    QByteArrayView sound = first;
+    std::optional<Header> header = decodeHeader(first);
+    if (!header) {
+        // A damaged first copy may have lost its line end, so the second one is searched for.
+        const QByteArrayView region = bytes.first(std::min(bytes.size(), 2 * kMaxHeaderSize));
+        const qsizetype second = region.indexOf(start, 1);
+        sound = second < 0 ? QByteArrayView() : lineAt(region, second);
+        header = decodeHeader(sound);
+        place.firstIsSound = false;
+    }
+    if (header) {
+        contents.header = *header;
+        contents.headerLine = sound.toByteArray();
+        place.end = sound.data() - bytes.data() + sound.size();
+    } else if (headerVersion(first) > kFormatVersion) {
+        place.status = VDBStatus::NewerFormat;
+    } else {
+        const QByteArrayView region = bytes.first(std::min(bytes.size(), 2 * kMaxHeaderSize));
+        place.status =
+            region.indexOf(start) >= 0 ? VDBStatus::DamagedHeader : VDBStatus::NotADatabase;
+    }
+    return place;
+}
+
+/// Walks the lines and applies the batches.
+///
+/// The lines of a batch wait in m_pending for their commit line. A commit line that does not match
+/// them moves them to m_held: what follows tells a batch that was damaged later (a seal, or a further
+/// batch) from one that was never completed (a void mark, or the end of the file).
+class Scanner
+{
+public:
+    Scanner(QByteArrayView bytes, const Signer &signer, Contents &contents)
+        : m_bytes(bytes)
+        , m_signer(signer)
+        , m_contents(contents)
+    { }
+
+    void run(const HeaderPlace &place);
+    /// The damage met, in file order.
+    std::vector<VDBDamage> takeDamage();
+
+private:
+    void readHeaderCopies(const HeaderPlace &place);
+    void readLine();
+    bool readMark(QByteArrayView line);
+    bool readSignedLine(QByteArrayView line);
+    void readDamage(QByteArrayView line);
+    void readCommit(QByteArrayView payload, qsizetype size);
+    void readEnd();
+    void endLine(qsizetype contentEnd);
+    Entry newEntry(LineKind kind, qsizetype size, Reason damage) const;
+    QString idOf(LineKind kind, QByteArrayView payload) const;
+    qsizetype soundEnd(const Line &line, QByteArrayView bytes) const;
+    void hold();
+    void apply(std::vector<Entry> &entries);
+    void applyOne(Entry &&entry);
+    void kill(const QString &id);
+    void drop(std::vector<Entry> &entries, std::size_t count);
+    void report(Reason reason, qint64 offset, qint64 size, qint64 line, const QString &id = {});
+
+    const QByteArrayView m_bytes;
+    const Signer &m_signer;
+    Contents &m_contents;
+
+    qsizetype m_position = 0;
+    qint64 m_line = 1;
+    qsizetype m_nextLineFeed = -1; ///< The first line feed at or after m_position, once known.
+    std::vector<Entry> m_pending;
+    std::vector<Entry> m_held;
+    QMultiHash<QString, std::size_t> m_damagedRecords; ///< Live damaged entries by readable id.
+    std::vector<VDBDamage> m_damage;
+};
+
+std::vector<VDBDamage> Scanner::takeDamage()
+{
+    std::stable_sort(m_damage.begin(), m_damage.end(),
+                     [](const VDBDamage &a, const VDBDamage &b) { return a.offset < b.offset; });
+    return std::move(m_damage);
+}
+
+void Scanner::report(Reason reason, qint64 offset, qint64 size, qint64 line, const QString &id)
+{
+    m_damage.push_back({offset, size, line, id, reason});
+}
+
+void Scanner::run(const HeaderPlace &place)
+{
+    readHeaderCopies(place);
+    while (m_position < m_bytes.size())
+        readLine();
+    readEnd();
+}
+
+/// Moves behind the two copies of the header.
+void Scanner::readHeaderCopies(const HeaderPlace &place)
+{
+    if (!place.firstIsSound) {
+        report(Reason::BadHeader, 0, place.end - m_contents.headerLine.size(), 1);
+        m_line = m_bytes.first(place.end).count('\n') + 1;
+        endLine(place.end);
+        return;
+    }
+    endLine(place.end);
+    const QByteArrayView second = lineAt(m_bytes, m_position);
+    if (second.startsWith(m_contents.headerLine)) {
+        endLine(m_position + m_contents.headerLine.size());
+    } else if (m_position < m_bytes.size()) {
+        report(Reason::BadHeader, m_position, second.size(), m_line);
+        endLine(m_position + second.size());
+    }
+}
+
+void Scanner::readLine()
+{
+    if (m_nextLineFeed < m_position) {
+        m_nextLineFeed = m_bytes.indexOf('\n', m_position);
+        if (m_nextLineFeed < 0)
+            m_nextLineFeed = m_bytes.size();
+    }
+    const QByteArrayView line = m_bytes.sliced(m_position, m_nextLineFeed - m_position);
+    if (line.isEmpty() || line == QByteArrayView("\r"))
+        endLine(m_position); // Blank lines are filling and have no meaning.
+    else if (!readMark(line) && !readSignedLine(line))
+        readDamage(line);
+}
+
+/// Moves behind the line end that is due at `contentEnd`, whatever stands there.
+void Scanner::endLine(qsizetype contentEnd)
+{
+    m_position = contentEnd;
+    if (m_position >= m_bytes.size())
+        return;
+    const QByteArrayView rest = m_bytes.sliced(m_position);
+    if (rest.startsWith('\n')) {
+        m_position += 1;
+    } else if (rest.startsWith(QByteArrayView("\r\n"))) {
+        report(Reason::BadLineEnd, m_position, 2, m_line);
+        m_position += 2;
+    } else {
+        // The next line may begin at once, if the line end was lost rather than altered.
+        const bool lost = QByteArrayView("+-=.~").contains(rest[0]);
+        report(Reason::BadLineEnd, m_position, lost ? 0 : 1, m_line);
+        m_position += lost ? 0 : 1;
+        return; // Still the same line for whoever counts line feeds.
+    }
+    ++m_line;
+}
+
+/// Reads a seal or a void mark; false when the line is neither.
+bool Scanner::readMark(QByteArrayView line)
+{
+    const bool isSeal = line[0] == char(LineKind::Seal);
+    if (!isSeal && line[0] != char(LineKind::Void))
+        return false;
+    const bool isWhole = line.size() == 1 || line.sliced(1) == QByteArrayView("\r");
+    // An altered line feed leaves another byte behind the mark; a lost one none. A stray byte before
+    // a line must not void what stands before it, so that much is not believed of a void mark.
+    const bool lostItsEnd =
+        line.size() > 2 && (splitLine(line.sliced(2)) || (isSeal && splitLine(line.sliced(1))));
+    if (!isWhole && !lostItsEnd)
+        return false;
+    if (isSeal) {
+        // What is sealed was complete once: a commit that does not match is damage of later.
+        apply(m_held);
+        apply(m_pending);
+    } else {
+        drop(m_held, m_held.size());
+        drop(m_pending, m_pending.size());
+    }
+    m_contents.tail = TailState::Clean;
+    endLine(m_position + 1);
+    return true;
+}
+
+Entry Scanner::newEntry(LineKind kind, qsizetype size, Reason damage) const
+{
+    Entry entry;
+    entry.kind = kind;
+    entry.offset = m_position;
+    entry.size = size;
+    entry.line = m_line;
+    entry.damage = damage;
+    return entry;
+}
+
+QString Scanner::idOf(LineKind kind, QByteArrayView payload) const
+{
+    return kind == LineKind::Remove ? unescaped(payload)
+                                    : findField(payload, m_contents.header.keyField);
+}
+
+/// Where the content of a signed line ends, or -1 when no end makes its signature match.
+qsizetype Scanner::soundEnd(const Line &line, QByteArrayView bytes) const
+{
+    const qsizetype payloadAt = line.payload.data() - bytes.data();
+    const qsizetype lineFeed = bytes.endsWith('\r') ? bytes.size() - 1 : bytes.size();
+    // The stated length finds the end of a line whose line feed was altered; the line feed finds the
+    // end of a line whose length was altered.
+    qsizetype tried = -1;
+    for (const qsizetype end : {line.statedEnd, lineFeed, bytes.size()}) {
+        if (end < payloadAt || end == tried)
+            continue;
+        tried = end;
+        if (line.sum == Signer::sum(line.kind, bytes.sliced(payloadAt, end - payloadAt))
+            && (!m_signer.isKeyed() || line.code == m_signer.code(line.sum)))
+            return end;
+    }
+    return -1;
+}
+
+/// Reads an insert, a removal or a commit that is sound; false when the line is none.
+bool Scanner::readSignedLine(QByteArrayView bytes)
+{
+    const std::optional<Line> line = splitLine(bytes);
+    const qsizetype end = line ? soundEnd(*line, bytes) : -1;
+    if (end < 0)
+        return false;
+    const qsizetype payloadAt = line->payload.data() - bytes.data();
+    const QByteArrayView payload = bytes.sliced(payloadAt, end - payloadAt);
+    if (line->kind == LineKind::Commit) {
+        readCommit(payload, end);
+    } else {
+        Entry entry = newEntry(line->kind, end, Reason::NotALine);
+        entry.payloadAt = payloadAt;
+        entry.sum = line->sum.toByteArray();
+        entry.id = idOf(line->kind, payload);
+        entry.isSound = true;
+        m_pending.push_back(std::move(entry));
+    }
+    endLine(m_position + end);
+    return true;
+}
+
+/// Takes note of a line that cannot be used.
+void Scanner::readDamage(QByteArrayView bytes)
+{
+    const std::optional<Line> line = splitLine(bytes);
+    Entry entry = newEntry(LineKind::Insert, bytes.size(), Reason::NotALine);
+    entry.looksTorn = QByteArrayView("+-=\0", 4).contains(bytes[0]);
+    if (line) {
+        entry.kind = line->kind;
+        entry.damage = line->kind == LineKind::Commit ? Reason::BadCommit : Reason::BadSignature;
+        entry.isRecord = line->kind == LineKind::Insert;
+        entry.payloadAt = line->payload.data() - bytes.data();
+        entry.sum = line->sum.toByteArray();
+        if (line->kind != LineKind::Commit)
+            entry.id = idOf(line->kind, line->payload);
+    } else if (bytes.startsWith(m_contents.headerLine)) {
+        entry.damage = Reason::BadHeader;
+    }
+    const bool isCommit = entry.damage == Reason::BadCommit;
+    m_pending.push_back(std::move(entry));
+    if (isCommit)
+        hold();
+    endLine(m_position + bytes.size());
+}
+
+/// Ends the batch with a sound commit line.
+void Scanner::readCommit(QByteArrayView payload, qsizetype size)
+{
+    const auto count = findField(payload, u"lines"_s).toULongLong();
+    std::vector<std::size_t> lines;
+    for (std::size_t i = 0; i < m_pending.size(); ++i) {
+        if (m_pending[i].isSound || m_pending[i].isRecord)
+            lines.push_back(i);
+    }
+    // Lines that an interrupted batch left in front do not belong to this one.
+    const std::size_t skipped = lines.size() > count ? lines.size() - std::size_t(count) : 0;
+    bool complete = lines.size() - skipped == count;
+    QByteArray sums;
+    for (std::size_t i = skipped; i < lines.size(); ++i) {
+        sums += m_pending[lines[i]].sum;
+        complete = complete && m_pending[lines[i]].isSound;
+    }
+    if (complete && Signer::sum(sums) == findField(payload, u"digest"_s).toLatin1()) {
+        apply(m_held);
+        if (skipped > 0)
+            drop(m_pending, lines[skipped - 1] + 1);
+        apply(m_pending);
+        m_contents.tail = TailState::Unsealed;
+    } else {
+        m_pending.push_back(newEntry(LineKind::Commit, size, Reason::BadCommit));
+        hold();
+    }
+}
+
+/// Puts the batch aside until what follows decides about it.
+void Scanner::hold()
+{
+    apply(m_held); // A further batch follows it, so it was complete once.
+    m_held = std::move(m_pending);
+    m_pending.clear();
+}
+
+void Scanner::readEnd()
+{
+    m_contents.endsInsideLine = !m_bytes.endsWith('\n');
+    const bool torn = std::any_of(m_pending.begin(), m_pending.end(), [](const Entry &entry) {
+        return entry.isSound || entry.isRecord || entry.looksTorn;
+    });
+    if (!m_held.empty() || torn) {
+        m_contents.tail = TailState::Unfinished;
+        drop(m_held, m_held.size());
+        drop(m_pending, m_pending.size());
+    }
+    apply(m_pending); // What is left is foreign: reported, and kept where it is.
+}
+
+void Scanner::drop(std::vector<Entry> &entries, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        report(Reason::Unfinished, entries[i].offset, entries[i].size, entries[i].line,
+               entries[i].id);
+    entries.erase(entries.begin(), entries.begin() + std::ptrdiff_t(count));
+}
+
+void Scanner::apply(std::vector<Entry> &entries)
+{
+    for (Entry &entry : entries)
+        applyOne(std::move(entry));
+    entries.clear();
+}
+
+void Scanner::applyOne(Entry &&entry)
+{
+    std::vector<Entry> &entries = m_contents.entries;
+    if (entry.isSound) {
+        kill(entry.id);
+        if (entry.kind == LineKind::Remove)
+            return;
+        m_contents.index.insert(entry.id, entries.size());
+    } else {
+        report(entry.damage, entry.offset, entry.size, entry.line, entry.id);
+        // An older sound record of the same key stays live: better an old one than none.
+        if (entry.isRecord)
+            m_damagedRecords.insert(entry.id, entries.size());
+        else if (entry.kind != LineKind::Insert || entry.damage == Reason::BadHeader)
+            return;
+    }
+    entries.push_back(std::move(entry));
+}
+
+/// Marks every live entry of the key as dead: a later line stands for them.
+void Scanner::kill(const QString &id)
+{
+    if (const auto sound = m_contents.index.constFind(id); sound != m_contents.index.constEnd()) {
+        m_contents.entries[*sound].isLive = false;
+        m_contents.index.erase(sound);
+    }
+    for (const std::size_t damaged : m_damagedRecords.values(id))
+        m_contents.entries[damaged].isLive = false;
+    m_damagedRecords.remove(id);
+}
+
+} // namespace
+
+Contents scan(QByteArrayView bytes, const Signer &signer, const VDBReporter &reporter)
+{
+    Contents contents;
+    if (bytes.isEmpty() || isTornHeader(bytes)) {
+        contents.status = VDBStatus::Empty;
+        return contents;
+    }
+    const HeaderPlace place = readHeader(bytes, contents);
+    contents.status = place.status;
+    if (contents.status == VDBStatus::Ok && signer.isKeyed()
+        && signer.keyCheck() != contents.header.keyCheck)
+        contents.status = VDBStatus::WrongKey;
+    if (contents.status != VDBStatus::Ok)
+        return contents;
+    Scanner scanner(bytes, signer, contents);
+    scanner.run(place);
+    if (reporter) {
+        for (const VDBDamage &damage : scanner.takeDamage())
+            reporter(damage);
+    }
+    return contents;
+}
+
+} // namespace Norvane::Database

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include "VDeviceConfigChildren.h"
+
+#include "OpaqueConfig.h"
+#include "VDeviceConfig_p.h"
+
+#include <vcommon/VDeviceConfig.h>
+
+#include <algorithm>
+
+namespace Norvane::Hardware {
+
+namespace {
+
+using Config = VDeviceConfigChildren::Config;
+
+bool isOfKind(const Config &config, const QUuid &id)
+{
+    return id.isNull() || config.id() == id;
+}
+
+bool losesMetadataInACopy(const Config &config)
+{
+    const auto entries = config.metadataList();
+    return std::any_of(entries.begin(), entries.end(), [](const auto *entry) {
+        return (entry->flags() & MetadataFlags::KillOnCopy) != MetadataFlags::None;
+    });
+}
+
+std::unique_ptr<Config> cloneOf(const Config &config)
+{
+    return std::unique_ptr<Config>(static_cast<Config *>(config.clone()));
+}
+
+} // namespace
+
+VDeviceConfigChildren::Pointer VDeviceConfigChildren::copyOf(const Pointer &children)
+{
+    return children && !children->m_shareable ? children->clones() : children;
+}
+
+VDeviceConfigChildren::Pointer VDeviceConfigChildren::fromJson(const QJsonArray &array)
+{
+    Pointer children(new VDeviceConfigChildren);
+    for (const QJsonValue &element : array) {
+        if (!element.isObject())
+            continue;
+        const QJsonObject envelope = element.toObject();
+        std::unique_ptr<Config> config = registeredConfigFromJson(envelope);
+        if (!config)
+            config = std::make_unique<OpaqueConfig>(envelope);
+        children->append(std::move(config));
+    }
+    return children->isEmpty() ? Pointer() : children;
+}
+
+QJsonArray VDeviceConfigChildren::toJson() const
+{
+    QJsonArray array;
+    for (const auto &config : m_configs)
+        array.append(config->toJsonObject());
+    return array;
+}
+
+VDeviceConfigChildren::Pointer VDeviceConfigChildren::clones() const
+{
+    Pointer copy(new VDeviceConfigChildren);
+    copy->m_configs.reserve(m_configs.size());
+    for (const auto &config : m_configs)
+        copy->append(cloneOf(*config));
+    return copy;
+}
+
+void VDeviceConfigChildren::append(std::unique_ptr<Config> config)
+{
+    // A shared child stays what it is, a cloned one may lose metadata, and of a class of the host's
+    // own nothing is known: records that would show the difference are cloned.
+    const auto *base = dynamic_cast<const VDeviceConfig *>(config.get());
+    m_shareable = m_shareable && base != nullptr && !losesMetadataInACopy(*config)
+        && (!base->m_children || base->m_children->m_shareable);
+    m_configs.push_back(std::move(config));
+}
+
+void VDeviceConfigChildren::appendReachable(std::unique_ptr<Config> config)
+{
+    m_shareable = false;
+    m_configs.push_back(std::move(config));
+}
+
+QList<Config *> VDeviceConfigChildren::handOut(const QUuid &id)
+{
+    m_shareable = false;
+    QList<Config *> list;
+    for (const auto &config : m_configs) {
+        if (isOfKind(*config, id))
+            list.append(config.get());
+    }
+    return list;
+}
+
+int VDeviceConfigChildren::count(const QUuid &id, bool deep) const
+{
+    int count = 0;
+    for (const auto &config : m_configs)
+        count += (isOfKind(*config, id) ? 1 : 0) + (deep ? config->count(id, true) : 0);
+    return count;
+}
+
+bool VDeviceConfigChildren::contains(const QUuid &id, bool deep) const
+{
+    return std::any_of(m_configs.begin(), m_configs.end(), [&](const auto &config) {
+        return isOfKind(*config, id) || (deep && config->contains(id, true));
+    });
+}
+
+bool VDeviceConfigChildren::contains(const Config *config, bool deep) const
+{
+    return std::any_of(m_configs.begin(), m_configs.end(), [&](const auto &child) {
+        return child.get() == config
+            || (deep && child->contains(const_cast<Config *>(config), true));
+    });
+}
+
+void VDeviceConfigChildren::remove(const QUuid &id, bool deep)
+{
+    std::erase_if(m_configs, [&](const auto &config) { return isOfKind(*config, id); });
+    if (deep) {
+        for (const auto &config : m_configs)
+            config->remove(id, true);
+    }
+}
+
+bool VDeviceConfigChildren::remove(const Config *config, bool deep)
+{
+    if (std::erase_if(m_configs, [&](const auto &child) { return child.get() == config; }) > 0)
+        return true;
+    return deep && std::any_of(m_configs.begin(), m_configs.end(), [&](const auto &child) {
+               return child->remove(const_cast<Config *>(config), true);
+           });
+}
+
+bool VDeviceConfigChildren::equals(const VDeviceConfigChildren &other) const
+{
+    return std::equal(m_configs.begin(), m_configs.end(), other.m_configs.begin(),
+                      other.m_configs.end(),
+                      [](const auto &a, const auto &b) { return a->equalsTo(b.get()); });
+}
+
+} // namespace Norvane::Hardware

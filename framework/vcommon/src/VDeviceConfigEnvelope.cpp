@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+// The fields of a record as JSON: what stands in the envelope beside the class's own object.
+
+#include "VDeviceConfig_p.h"
+
+#include <vcore/VMetadata.h>
+
+#include <QtCore/QJsonArray>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Hardware {
+
+namespace {
+
+constexpr QLatin1StringView kMetadataKey{"key"};
+constexpr QLatin1StringView kMetadataFlags{"flags"};
+constexpr QLatin1StringView kMetadataValue{"value"};
+
+QDateTime dateTimeFromText(const QString &text)
+{
+    QDateTime dateTime = QDateTime::fromString(text, Qt::ISODateWithMs);
+    // The same text means the same moment wherever it is read: no zone is not the reader's zone.
+    if (dateTime.timeSpec() == Qt::LocalTime) {
+        const QString inUtc = text.size() > 10 ? text + "Z"_L1 : text + "T00:00Z"_L1;
+        dateTime = QDateTime::fromString(inUtc, Qt::ISODateWithMs);
+    }
+    return dateTime.isValid() ? dateTime.toUTC() : QDateTime();
+}
+
+} // namespace
+
+void VDeviceConfigPrivate::readJson(const QJsonObject &envelope)
+{
+    deviceId = QUuid::fromString(envelope.value(EnvelopeKey::kDeviceId).toString());
+    version = VVersion::fromString(envelope.value(EnvelopeKey::kVersion).toString());
+    name = envelope.value(EnvelopeKey::kName).toString();
+    description = envelope.value(EnvelopeKey::kDescription).toString();
+    dateTime = dateTimeFromText(envelope.value(EnvelopeKey::kDateTime).toString());
+}
+
+void VDeviceConfigPrivate::writeJson(QJsonObject &envelope) const
+{
+    envelope.insert(EnvelopeKey::kDeviceId, deviceId.toString(QUuid::WithBraces));
+    envelope.insert(EnvelopeKey::kVersion, version.toString());
+    envelope.insert(EnvelopeKey::kName, name);
+    envelope.insert(EnvelopeKey::kDescription, description);
+    // ISO text covers the years 0 to 9999 only; a moment beyond them has none.
+    const QString text = dateTime.toString(Qt::ISODateWithMs);
+    if (!text.isEmpty())
+        envelope.insert(EnvelopeKey::kDateTime, text);
+}
+
+bool VDeviceConfigPrivate::sameFields(const VDeviceConfigPrivate &other) const
+{
+    return deviceId == other.deviceId && version == other.version && name == other.name
+        && description == other.description && dateTime == other.dateTime;
+}
+
+QJsonArray metadataToJson(const QList<Norvane::Interfaces::IMetadata *> &entries)
+{
+    QJsonArray array;
+    for (const auto *entry : entries) {
+        if ((entry->flags() & MetadataFlags::KillOnSave) != MetadataFlags::None)
+            continue;
+        // As text: a JSON number holds no 64 bits.
+        array.append(QJsonObject{
+            {kMetadataKey, QString::number(entry->key())},
+            {kMetadataFlags, MetadataFlags_T::instance().textOf(entry->flags())},
+            {kMetadataValue, entry->value()},
+        });
+    }
+    return array;
+}
+
+void insertMetadataFromJson(Norvane::Interfaces::IMetadatable &record, const QJsonArray &array)
+{
+    for (const QJsonValue &element : array) {
+        const QJsonObject object = element.toObject();
+        bool ok = false;
+        const quint64 key = object.value(kMetadataKey).toString().toULongLong(&ok);
+        if (!ok)
+            continue;
+        const QString flags = object.value(kMetadataFlags).toString();
+        VMetadata entry(key, object.value(kMetadataValue),
+                        MetadataFlags_T::instance().valueOf(flags));
+        record.insertMetadata(&entry, false);
+    }
+}
+
+} // namespace Norvane::Hardware
