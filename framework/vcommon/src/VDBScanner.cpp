@@ -195,8 +195,9 @@ void Scanner::endLine(qsizetype contentEnd)
         report(Reason::BadLineEnd, m_position, 2, m_line);
         m_position += 2;
     } else {
-        // The next line may begin at once, if the line end was lost rather than altered.
-        const bool lost = QByteArrayView("+-=.~").contains(rest[0]);
+        // The next line may begin at once, if the line end was lost rather than altered. A void mark is
+        // not believed here: a stray byte must not void what stands before it.
+        const bool lost = QByteArrayView("+-=.").contains(rest[0]);
         report(Reason::BadLineEnd, m_position, lost ? 0 : 1, m_line);
         m_position += lost ? 0 : 1;
         return; // Still the same line for whoever counts line feeds.

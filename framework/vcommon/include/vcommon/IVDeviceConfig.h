@@ -85,8 +85,8 @@ public:
     /// Reads what save() wrote, to the end of `device`; false, and nothing changed, if it is not a
     /// record of this kind.
     virtual bool load(QIODevice *device) = 0;
-    /// Fills the record from what toJsonObject() gives; false, and nothing changed, when "id" is not
-    /// this record's kind. Every other missing or ill-typed key takes its default.
+    /// Fills the record from what toJsonObject() gives; false, and nothing changed, when "id" is
+    /// not this record's kind. Every other missing or ill-typed key takes its default.
     virtual bool setJsonObject(const QJsonObject &object) = 0;
     /// The content id: equal content, as the class defines it, gives equal ids.
     virtual QUuid dataId() const = 0;

@@ -91,8 +91,8 @@ public:
     /// name, or the device id of a record without one.
     QString toString(const QString &format, const QLocale &locale) const override;
 
-    /// Keeps `prototype` (and owns it) as what fromJson() clones for its id(); a later one of the same
-    /// kind takes its place. Prototypes are never deleted: their library may be gone by then.
+    /// Keeps `prototype` (and owns it) as what fromJson() clones for its id(); a later one of the
+    /// same kind takes its place. Prototypes are never deleted: their library may be gone by then.
     static void registerConfig(Interfaces::IVDeviceConfig *prototype);
     /// True when a prototype of the kind is registered.
     static bool isRegistered(const QUuid &id);
