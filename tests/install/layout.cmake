@@ -1,0 +1,35 @@
+# SPDX-FileCopyrightText: 2026 Norvane
+# SPDX-License-Identifier: MPL-2.0
+
+# Every library says which version of its interface it has, and no installed text names the folder
+# of the build, of the sources, or of the first prefix.
+include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
+
+foreach(library IN ITEMS vcore vcommon vimaging vkilnjet)
+    run("${CMAKE_READELF}" -d "${PREFIX}/${LIBDIR}/lib${library}.so")
+    if(NOT output MATCHES "soname: \\[lib${library}\\.so\\.2\\]")
+        message(SEND_ERROR "lib${library}.so is not called lib${library}.so.2:\n${output}")
+    endif()
+endforeach()
+
+file(GLOB_RECURSE texts "${PREFIX}/*.cmake" "${PREFIX}/*.h")
+foreach(text IN LISTS texts)
+    file(READ "${text}" content)
+    foreach(folder IN ITEMS "${BUILD}" "${SOURCE}" "${WORK}")
+        string(FIND "${content}" "${folder}" place)
+        if(NOT place EQUAL -1)
+            message(SEND_ERROR "${text} names ${folder}")
+        endif()
+    endforeach()
+endforeach()
+
+# Private headers stay at home.
+file(GLOB_RECURSE private "${PREFIX}/*_p.h")
+if(private)
+    message(SEND_ERROR "installed, though private: ${private}")
+endif()
+
+# The tool finds the libraries beside it.
+if(HAS_TOOL)
+    run("${PREFIX}/${BINDIR}/kilnjet" --help)
+endif()
