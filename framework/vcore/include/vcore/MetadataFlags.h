@@ -10,7 +10,8 @@
 namespace Norvane {
 
 /// When a metadata entry of a record is to be dropped.
-enum class MetadataFlags : int {
+enum class MetadataFlags : int
+{
     None = 0x00,
     KillOnCopy = 0x01, ///< The entry does not travel with a copy of the record.
     KillOnSave = 0x02, ///< The entry is not written into the record's JSON.

@@ -91,15 +91,16 @@ public:
 /// Declares the runtime class `Enum_T`, which derives from `Base` (VEnumBase or VEnumBaseFlags).
 ///
 /// Its instance() is built at the first use, once, whatever the number of threads, and is destroyed
-/// when the library that holds it is unloaded. object() is the same object for those who do not
-/// know its class, and convert() writes a variant that holds an `Enum`; its format has no meaning.
+/// when the library that holds it is unloaded. shortName() is its name() without building it,
+/// object() is the same object for those who do not know its class, and convert() writes a variant
+/// that holds an `Enum`; its format has no meaning.
 #define VCORE_DECLARE_ENUM_RUNTIME(EXPORT, Enum, Base)                                             \
     class EXPORT Enum##_T final : public Norvane::Base<Enum>                                       \
     {                                                                                              \
     public:                                                                                        \
-        static constexpr QLatin1StringView kShortName{#Enum};                                      \
         Enum##_T();                                                                                \
         QString name() const override;                                                             \
+        static QString shortName();                                                                \
         static const Enum##_T &instance();                                                         \
         static const Norvane::IVEnum &object();                                                    \
         static QString convert(const QVariant &value, const QString &format,                       \
@@ -112,10 +113,14 @@ public:
     {                                                                                              \
         for (const auto &entry : table)                                                            \
             names().add(qint64(entry.value), QString(entry.name));                                 \
-        if (auto *loader = Norvane::VEnumRuntimeLoader::loader(Enum##_T::name()))                  \
+        if (auto *loader = Norvane::VEnumRuntimeLoader::loader(shortName()))                       \
             loader->applyTo(this);                                                                 \
     }                                                                                              \
     QString Enum##_T::name() const                                                                 \
+    {                                                                                              \
+        return shortName();                                                                        \
+    }                                                                                              \
+    QString Enum##_T::shortName()                                                                  \
     {                                                                                              \
         return QStringLiteral(#Enum);                                                              \
     }                                                                                              \

@@ -34,13 +34,13 @@ private:
         using Enum = typename Runtime::Enum;
         if constexpr (bool(QMetaTypeId<Enum>::Defined))
             VVariantConvert::sVariantToStringRegister(qMetaTypeId<Enum>(), &Runtime::convert);
-        VEnumRegistry::insert(Runtime::kShortName, &Runtime::object);
+        VEnumRegistry::insert(Runtime::shortName(), &Runtime::object);
     }
     template<typename Runtime>
     static void remove()
     {
         using Enum = typename Runtime::Enum;
-        VEnumRegistry::remove(Runtime::kShortName, &Runtime::object);
+        VEnumRegistry::remove(Runtime::shortName(), &Runtime::object);
         if constexpr (bool(QMetaTypeId<Enum>::Defined))
             VVariantConvert::sVariantToStringUnregister(qMetaTypeId<Enum>(), &Runtime::convert);
     }

@@ -16,12 +16,10 @@ class VPair : public std::pair<First, Second>, public Interfaces::ICloneable
 public:
     VPair()
         : std::pair<First, Second>()
-    {
-    }
+    { }
     VPair(const First &first, const Second &second)
         : std::pair<First, Second>(first, second)
-    {
-    }
+    { }
 
     Interfaces::ICloneable *clone() const override { return new VPair(*this); }
 };

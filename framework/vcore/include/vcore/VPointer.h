@@ -20,12 +20,10 @@ public:
     /// Takes over `pointer`; null gives an invalid pointer.
     explicit VPointer(T *pointer)
         : m_pointer(pointer)
-    {
-    }
+    { }
     VPointer(VPointer &&other) noexcept
         : m_pointer(other.release())
-    {
-    }
+    { }
     VPointer &operator=(VPointer &&other) noexcept
     {
         reset(other.release());

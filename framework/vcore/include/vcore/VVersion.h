@@ -18,14 +18,12 @@ public:
     /// The version packed as 0x00MMmmpp; 0.0.0 by default. The top byte is ignored.
     constexpr explicit VVersion(quint32 packed = 0)
         : m_packed(packed & 0x00FFFFFFU)
-    {
-    }
+    { }
     /// The version `major`.`minor`.`patch`; only the low eight bits of each number count.
     constexpr VVersion(int majorNumber, int minorNumber, int patchNumber)
         : m_packed((quint32(majorNumber & 0xFF) << 16) | (quint32(minorNumber & 0xFF) << 8)
                    | quint32(patchNumber & 0xFF))
-    {
-    }
+    { }
 
     constexpr int majorNumber() const { return int((m_packed >> 16) & 0xFF); }
     constexpr int minorNumber() const { return int((m_packed >> 8) & 0xFF); }

@@ -11,7 +11,8 @@
 namespace Norvane::Imaging {
 
 /// The unit of a resolution.
-enum class ResolutionUnit : int {
+enum class ResolutionUnit : int
+{
     PPM = 0, ///< Pixels per metre.
     PPMM = 1, ///< Pixels per millimetre.
     DPI = 2, ///< Dots per inch.
