@@ -11,10 +11,10 @@ namespace Norvane {
 
 namespace {
 
-/// A version number of plain ASCII digits from 0 to 255, else -1.
+/// A version number of plain ASCII digits from 0 to 255, without leading zeros, else -1.
 int numberFromText(QStringView text)
 {
-    if (text.isEmpty() || text.size() > 3)
+    if (text.isEmpty() || text.size() > 3 || (text.size() > 1 && text.front() == u'0'))
         return -1;
     int number = 0;
     for (const QChar digit : text) {
