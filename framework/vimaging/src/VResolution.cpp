@@ -13,14 +13,11 @@ VResolution::VResolution(double x, double y, ResolutionUnit unit)
     : m_x(x)
     , m_y(y)
     , m_unit(unit)
-{
-}
+{ }
 
 QJsonObject VResolution::toJsonObject() const
 {
-    return {{u"x"_s, m_x},
-            {u"y"_s, m_y},
-            {u"unit"_s, ResolutionUnit_T::instance().textOf(m_unit)}};
+    return {{u"x"_s, m_x}, {u"y"_s, m_y}, {u"unit"_s, ResolutionUnit_T::instance().textOf(m_unit)}};
 }
 
 VResolution VResolution::fromJsonObject(const QJsonObject &object)

@@ -13,7 +13,8 @@ namespace Norvane {
 
 /// While it lives, the enumerations of these runtime classes are known, in this order, to the
 /// directory of enumerations and, if they are declared to the meta-type system, as converters of
-/// variants to text. Its destruction undoes that in reverse. No runtime object is built by it.
+/// variants to text. Its destruction, when a library is unloaded, undoes that in reverse and leaves
+/// nothing behind that points into the library. No runtime object is built by it.
 template<typename... Runtimes>
 class VEnumRegistration
 {
@@ -29,20 +30,29 @@ public:
 
 private:
     template<typename Runtime>
+    static constexpr bool kIsMetaType = QMetaTypeId<typename Runtime::Enum>::Defined;
+
+    template<typename Runtime>
     static void add()
     {
-        using Enum = typename Runtime::Enum;
-        if constexpr (bool(QMetaTypeId<Enum>::Defined))
-            VVariantConvert::sVariantToStringRegister(qMetaTypeId<Enum>(), &Runtime::convert);
+        if constexpr (kIsMetaType<Runtime>) {
+            const QMetaType type = QMetaType::fromType<typename Runtime::Enum>();
+            VVariantConvert::sVariantToStringRegister(type.id(), &Runtime::convert);
+        }
         VEnumRegistry::insert(Runtime::shortName(), &Runtime::object);
     }
     template<typename Runtime>
     static void remove()
     {
-        using Enum = typename Runtime::Enum;
         VEnumRegistry::remove(Runtime::shortName(), &Runtime::object);
-        if constexpr (bool(QMetaTypeId<Enum>::Defined))
-            VVariantConvert::sVariantToStringUnregister(qMetaTypeId<Enum>(), &Runtime::convert);
+        if constexpr (kIsMetaType<Runtime>) {
+            const QMetaType type = QMetaType::fromType<typename Runtime::Enum>();
+            VVariantConvert::sVariantToStringUnregister(type.id(), &Runtime::convert);
+            // Each library has its own description of a type, and Qt knows the first that came. If
+            // that is this library's, looking the type up after the unload would crash.
+            if (QMetaType(type.id()).iface() == type.iface())
+                QMetaType::unregisterMetaType(type);
+        }
     }
 };
 
