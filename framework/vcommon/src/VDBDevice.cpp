@@ -47,7 +47,7 @@ bool writeAll(QIODevice &device, QByteArrayView bytes)
 
 QFileDevice *Device::file() const
 {
-    return qobject_cast<QFileDevice *>(m_device);
+    return qobject_cast<QFileDevice *>(m_device.data());
 }
 
 bool Device::fail(const QString &error)
@@ -143,7 +143,7 @@ bool Device::reopen(QIODevice::OpenMode mode)
 
 void Device::close()
 {
-    if (m_device == nullptr)
+    if (m_device.isNull())
         return;
     unlock();
     if (m_foundMode == QIODevice::NotOpen) {
@@ -205,7 +205,7 @@ bool Device::sync()
 {
     if (auto *const fileDevice = file())
         return syncFile(fileDevice->handle()) || fail(lastFileError());
-    auto *const durable = dynamic_cast<IVDurableDevice *>(m_device);
+    auto *const durable = dynamic_cast<IVDurableDevice *>(m_device.data());
     return durable == nullptr || durable->sync() || fail(m_device->errorString());
 }
 
@@ -213,7 +213,7 @@ bool Device::truncate(qint64 size)
 {
     if (auto *const fileDevice = file())
         return fileDevice->resize(size) || fail(fileDevice->errorString());
-    if (auto *const buffer = qobject_cast<QBuffer *>(m_device)) {
+    if (auto *const buffer = qobject_cast<QBuffer *>(m_device.data())) {
         buffer->buffer().resize(size);
         return true;
     }

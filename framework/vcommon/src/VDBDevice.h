@@ -36,7 +36,7 @@ public:
     VDBStatus open(QIODevice *device, Intent intent, std::chrono::milliseconds lockTimeout);
     /// Unlocks the device and leaves it as it was found.
     void close();
-    bool isOpen() const { return m_device != nullptr; }
+    bool isOpen() const { return !m_device.isNull(); }
 
     /// The file's state; nothing for a device that is no file.
     std::optional<FileIdentity> identity() const;
@@ -67,7 +67,7 @@ private:
     QFileDevice *file() const;
     bool fail(const QString &error);
 
-    QIODevice *m_device = nullptr;
+    QPointer<QIODevice> m_device; ///< Null again should its owner delete it too early.
     QIODevice::OpenMode m_foundMode = QIODevice::NotOpen;
     qint64 m_foundPosition = 0;
     bool m_isLocked = false;

@@ -109,7 +109,8 @@ protected:
     virtual QString toInnerGenericString(const QString &format, const QLocale &locale) const;
     /// Stores the kind of a class whose id() is not a constant.
     virtual void setId(const QUuid &id);
-    /// The content id; `*ok` (which may be null) says whether the record has one. Here: the device id.
+    /// The content id; `*ok` (which may be null) says whether the record has one. Here: the device
+    /// id.
     virtual QUuid innerDataId(bool *ok) const;
     /// Whether the record can be used. Here: the device id is not null.
     virtual bool innerIsValid() const;
