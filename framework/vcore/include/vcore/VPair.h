@@ -17,8 +17,8 @@ public:
     VPair()
         : std::pair<First, Second>()
     { }
-    VPair(const First &first, const Second &second)
-        : std::pair<First, Second>(first, second)
+    VPair(const First &firstValue, const Second &secondValue)
+        : std::pair<First, Second>(firstValue, secondValue)
     { }
 
     Interfaces::ICloneable *clone() const override { return new VPair(*this); }

@@ -1,0 +1,212 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include <kilnjet/VElaborationDriver.h>
+
+#include "enums/ElaborationType_T.h"
+#include "enums/LevelManagement_T.h"
+
+#include <QtCore/QJsonArray>
+
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Kilnjet {
+
+namespace {
+
+using Imaging::VResolution;
+
+/// The version of the format that this library writes.
+constexpr VVersion kFormatVersion(1, 0, 0);
+
+constexpr QLatin1StringView kScrollRatioList{"scrollRatioList"};
+constexpr QLatin1StringView kResolutionList{"resolutionList"};
+constexpr QLatin1StringView kLevelManagementList{"levelManagementList"};
+constexpr QLatin1StringView kElaborationType{"elaborationType"};
+constexpr QLatin1StringView kAllowOnlineElaboration{"allowOnlineElaboration"};
+constexpr QLatin1StringView kPrefered{"prefered"};
+constexpr QLatin1StringView kMagnificationMin{"magnificationMin"};
+constexpr QLatin1StringView kMagnificationMax{"magnificationMax"};
+
+bool sameBits(const QList<double> &a, const QList<double> &b)
+{
+    return a.size() == b.size()
+        && (a.isEmpty()
+            || std::memcmp(a.constData(), b.constData(), size_t(a.size()) * sizeof(double)) == 0);
+}
+
+} // namespace
+
+VElaborationDriver::VElaborationDriver()
+    : VElaborationDriver(QUuid())
+{ }
+
+VElaborationDriver::VElaborationDriver(const QUuid &deviceId)
+    : VDeviceConfig(deviceId, kFormatVersion, QString(), QString())
+{ }
+
+VElaborationDriver::VElaborationDriver(const VElaborationDriver &other) = default;
+
+VElaborationDriver &VElaborationDriver::operator=(const VElaborationDriver &other) = default;
+
+VElaborationDriver::~VElaborationDriver() = default;
+
+bool VElaborationDriver::operator==(const VElaborationDriver &other) const
+{
+    if (this == &other)
+        return true;
+    return m_prefered == other.m_prefered
+        && m_allowOnlineElaboration == other.m_allowOnlineElaboration
+        && m_elaborationType == other.m_elaborationType
+        && m_levelManagementList == other.m_levelManagementList
+        && sameBits(m_scrollRatioList, other.m_scrollRatioList)
+        && m_resolutionList == other.m_resolutionList
+        && m_magnification.first == other.m_magnification.first
+        && m_magnification.second == other.m_magnification.second
+        && VDeviceConfig::operator==(other);
+}
+
+Interfaces::ICloneable *VElaborationDriver::clone() const
+{
+    return new VElaborationDriver(*this);
+}
+
+QUuid VElaborationDriver::id() const
+{
+    return QUuid(u"{488e105b-5aac-427d-92d3-1de3f94f8c7f}"_s);
+}
+
+bool VElaborationDriver::equalsTo(const Interfaces::IEquatable *other) const
+{
+    return sameTypeAs(other) && *this == static_cast<const VElaborationDriver &>(*other);
+}
+
+bool VElaborationDriver::allowOnlineElaboration() const
+{
+    return m_allowOnlineElaboration;
+}
+
+void VElaborationDriver::setAllowOnlineElaboration(bool allow)
+{
+    m_allowOnlineElaboration = allow;
+}
+
+bool VElaborationDriver::isPrefered() const
+{
+    return m_prefered;
+}
+
+void VElaborationDriver::setPrefered(bool prefered)
+{
+    m_prefered = prefered;
+}
+
+ElaborationType VElaborationDriver::elaborationType() const
+{
+    return m_elaborationType;
+}
+
+void VElaborationDriver::setElaborationType(const ElaborationType &type)
+{
+    m_elaborationType = type;
+}
+
+VMagnificationLimits VElaborationDriver::magnification() const
+{
+    return m_magnification;
+}
+
+void VElaborationDriver::setMagnification(const VMagnificationLimits &limits)
+{
+    m_magnification = limits;
+}
+
+QList<LevelManagement> VElaborationDriver::levelManagementList() const
+{
+    return m_levelManagementList;
+}
+
+void VElaborationDriver::setLevelManagementList(const QList<LevelManagement> &list)
+{
+    m_levelManagementList = list;
+}
+
+QList<double> VElaborationDriver::scrollRatioList() const
+{
+    return m_scrollRatioList;
+}
+
+void VElaborationDriver::setScrollRatioList(const QList<double> &list)
+{
+    m_scrollRatioList = list;
+}
+
+QList<VResolution> VElaborationDriver::resolutionList() const
+{
+    return m_resolutionList;
+}
+
+void VElaborationDriver::setResolutionList(const QList<VResolution> &list)
+{
+    m_resolutionList = list;
+}
+
+QJsonObject VElaborationDriver::toInnerJsonObject() const
+{
+    QJsonArray scrollRatios;
+    for (const double ratio : m_scrollRatioList)
+        scrollRatios.append(ratio);
+    QJsonArray resolutions;
+    for (const VResolution &resolution : m_resolutionList)
+        resolutions.append(resolution.toJsonObject());
+    QJsonArray levelManagements;
+    for (const LevelManagement mode : m_levelManagementList)
+        levelManagements.append(LevelManagement_T::instance().textOf(mode));
+    return {{kScrollRatioList, scrollRatios},
+            {kResolutionList, resolutions},
+            {kLevelManagementList, levelManagements},
+            {kElaborationType, ElaborationType_T::instance().textOf(m_elaborationType)},
+            {kAllowOnlineElaboration, m_allowOnlineElaboration},
+            {kPrefered, m_prefered},
+            {kMagnificationMin, m_magnification.first},
+            {kMagnificationMax, m_magnification.second}};
+}
+
+bool VElaborationDriver::setInnerJsonObject(const QJsonObject &object)
+{
+    m_scrollRatioList.clear();
+    const QJsonArray scrollRatios = object.value(kScrollRatioList).toArray();
+    for (const QJsonValue &ratio : scrollRatios)
+        m_scrollRatioList.append(ratio.toDouble());
+    m_resolutionList.clear();
+    const QJsonArray resolutions = object.value(kResolutionList).toArray();
+    for (const QJsonValue &resolution : resolutions)
+        m_resolutionList.append(VResolution::fromJsonObject(resolution.toObject()));
+    m_levelManagementList.clear();
+    const QJsonArray levelManagements = object.value(kLevelManagementList).toArray();
+    for (const QJsonValue &mode : levelManagements)
+        m_levelManagementList.append(LevelManagement_T::instance().valueOf(mode.toString()));
+    m_elaborationType =
+        ElaborationType_T::instance().valueOf(object.value(kElaborationType).toString());
+    m_allowOnlineElaboration = object.value(kAllowOnlineElaboration).toBool();
+    m_prefered = object.value(kPrefered).toBool();
+    const double maximum = object.value(kMagnificationMax).toDouble();
+    m_magnification = VMagnificationLimits(object.value(kMagnificationMin).toDouble(), maximum);
+    return true;
+}
+
+bool VElaborationDriver::innerIsValid() const
+{
+    return VDeviceConfig::innerIsValid() && m_elaborationType != ElaborationType::None
+        && !m_levelManagementList.isEmpty() && !m_resolutionList.isEmpty();
+}
+
+bool VElaborationDriver::innerIsEmpty() const
+{
+    return m_resolutionList.isEmpty() && m_levelManagementList.isEmpty()
+        && VDeviceConfig::innerIsEmpty();
+}
+
+} // namespace Norvane::Kilnjet

@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include <kilnjet/VPrinterDriver.h>
+
+#include "drivers/GuiCheck.h"
+#include "drivers/VPrinterDriver_p.h"
+#include "enums/PrinterClass_T.h"
+#include "enums/PrinterFacesMode_T.h"
+
+#include <vcore/VConvert.h>
+#include <vimaging/VImageHelper.h>
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTemporaryFile>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Kilnjet {
+
+namespace {
+
+/// The version of the format that this library writes.
+constexpr VVersion kFormatVersion(1, 2, 1);
+
+/// The sizes at which an SVG document is drawn.
+const QList<int> &svgSizes()
+{
+    static const QList<int> kSizes{16, 24, 32, 48, 64, 72, 96, 128, 256, 512, 1024};
+    return kSizes;
+}
+
+} // namespace
+
+VPrinterDriver::VPrinterDriver()
+    : VPrinterDriver(QUuid())
+{ }
+
+VPrinterDriver::VPrinterDriver(const QUuid &deviceId)
+    : VDeviceConfig(deviceId, kFormatVersion, QString(), QString())
+    , d(new VPrinterDriverPrivate)
+{ }
+
+VPrinterDriver::VPrinterDriver(const VPrinterDriver &other) = default;
+
+VPrinterDriver &VPrinterDriver::operator=(const VPrinterDriver &other) = default;
+
+VPrinterDriver::~VPrinterDriver() = default;
+
+VPrinterDriverPrivate &VPrinterDriver::own()
+{
+    // Acquire: a copy on another thread that has just let go has also finished reading.
+    if (d->ref.loadAcquire() != 1)
+        d.reset(new VPrinterDriverPrivate(*d));
+    return *d;
+}
+
+bool VPrinterDriver::operator==(const VPrinterDriver &other) const
+{
+    if (this == &other)
+        return true;
+    return (d == other.d || d->equals(*other.d)) && VDeviceConfig::operator==(other);
+}
+
+bool VPrinterDriverPrivate::equals(const VPrinterDriverPrivate &other) const
+{
+    return experimental == other.experimental && onlineElaboration == other.onlineElaboration
+        && onlineLinearizations == other.onlineLinearizations
+        && fileProtection == other.fileProtection && fileCompression == other.fileCompression
+        && facesMode == other.facesMode && printerClass == other.printerClass
+        && maximumFaces == other.maximumFaces && maximumImageBytes == other.maximumImageBytes
+        && svgIcon == other.svgIcon && icon.matches(other.icon);
+}
+
+Interfaces::ICloneable *VPrinterDriver::clone() const
+{
+    return new VPrinterDriver(*this);
+}
+
+QUuid VPrinterDriver::id() const
+{
+    return QUuid(u"{06b1a6eb-628e-45e5-8d80-eb92a4f22e4e}"_s);
+}
+
+bool VPrinterDriver::equalsTo(const Interfaces::IEquatable *other) const
+{
+    return sameTypeAs(other) && *this == static_cast<const VPrinterDriver &>(*other);
+}
+
+PrinterClass VPrinterDriver::printerClass() const
+{
+    return d->printerClass;
+}
+
+void VPrinterDriver::setPrinterClass(const PrinterClass &printerClass)
+{
+    own().printerClass = printerClass;
+}
+
+PrinterFacesMode VPrinterDriver::facesMode() const
+{
+    return d->facesMode;
+}
+
+void VPrinterDriver::setFacesMode(const PrinterFacesMode &mode)
+{
+    own().facesMode = mode;
+}
+
+PrinterFileCompression VPrinterDriver::fileCompression() const
+{
+    return d->fileCompression;
+}
+
+void VPrinterDriver::setFileCompression(const PrinterFileCompression &compression)
+{
+    own().fileCompression = compression;
+}
+
+PrinterFileProtection VPrinterDriver::fileProtection() const
+{
+    return d->fileProtection;
+}
+
+void VPrinterDriver::setFileProtection(const PrinterFileProtection &protection)
+{
+    own().fileProtection = protection;
+}
+
+int VPrinterDriver::maximumFaces() const
+{
+    return d->maximumFaces;
+}
+
+void VPrinterDriver::setMaximumFaces(int faces)
+{
+    own().maximumFaces = faces;
+}
+
+qint64 VPrinterDriver::maximumImageBytes() const
+{
+    return d->maximumImageBytes;
+}
+
+void VPrinterDriver::setMaximumImageBytes(qint64 bytes)
+{
+    own().maximumImageBytes = bytes;
+}
+
+bool VPrinterDriver::onlineElaboration() const
+{
+    return d->onlineElaboration;
+}
+
+void VPrinterDriver::setOnlineElaboration(bool online)
+{
+    own().onlineElaboration = online;
+}
+
+bool VPrinterDriver::onlineLinearizations() const
+{
+    return d->onlineLinearizations;
+}
+
+void VPrinterDriver::setOnlineLinearizations(bool online)
+{
+    own().onlineLinearizations = online;
+}
+
+bool VPrinterDriver::experimental() const
+{
+    return d->experimental;
+}
+
+void VPrinterDriver::setExperimental(bool experimental)
+{
+    own().experimental = experimental;
+}
+
+QIcon VPrinterDriver::icon() const
+{
+    if (d->svgIcon.isEmpty())
+        return d->icon.icon();
+    QTemporaryFile file;
+    if (!isGuiRunning() || !file.open() || file.write(d->svgIcon) != d->svgIcon.size())
+        return {};
+    file.close();
+    return Imaging::VImageHelper::iconFromSvg(file.fileName(), QColor::fromRgba(0), svgSizes());
+}
+
+void VPrinterDriver::setIcon(const QIcon &icon)
+{
+    own().icon = DriverIcon(icon);
+    own().svgIcon.clear();
+}
+
+void VPrinterDriver::setIcon(const QString &path)
+{
+    if (QFileInfo(path).suffix().compare("svg"_L1, Qt::CaseInsensitive) != 0) {
+        own().icon = DriverIcon::fromFile(path);
+        own().svgIcon.clear();
+        return;
+    }
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        setSvgIcon(file.readAll());
+}
+
+void VPrinterDriver::setSvgIcon(const QByteArray &svg)
+{
+    own().svgIcon = svg;
+    own().icon = DriverIcon();
+}
+
+QJsonObject VPrinterDriver::toInnerJsonObject() const
+{
+    return d->toJson();
+}
+
+bool VPrinterDriver::setInnerJsonObject(const QJsonObject &object)
+{
+    own().readJson(object);
+    return true;
+}
+
+QUuid VPrinterDriver::innerDataId(bool *ok) const
+{
+    Q_UNUSED(ok) // Every driver has a content id.
+    const QStringList texts{PrinterFacesMode_T::instance().textOf(d->facesMode),
+                            PrinterClass_T::instance().textOf(d->printerClass),
+                            VConvert::toString(d->maximumFaces, QLocale(QLocale::C))};
+    return QUuid::createUuidV5(deviceId(), texts.join(u';'));
+}
+
+bool VPrinterDriver::innerIsValid() const
+{
+    return VDeviceConfig::innerIsValid() && count(QUuid(), false) > 0;
+}
+
+} // namespace Norvane::Kilnjet
