@@ -12,6 +12,9 @@
 #include "enums/PrinterFileCompression_T.h"
 #include "enums/PrinterFileProtection_T.h"
 
+#include <kilnjet/VElaborationDriver.h>
+#include <kilnjet/VPrintUnitDriver.h>
+#include <kilnjet/VPrinterDriver.h>
 #include <vcore/BinaryUnit.h>
 #include <vcore/Bool.h>
 #include <vcore/ByteOrder.h>
@@ -73,10 +76,22 @@ using ColorManagementEnumerations =
                       Lcms::ProcessFlags_T, Lcms::ProfileHeaderAttributes_T,
                       Lcms::ProfileHeaderFlags_T, Lcms::ProfileInfoType_T, Lcms::RenderingIntent_T>;
 
+/// The registry owns the prototypes, beyond the life of this library too: nothing to undo.
+struct DriverPrototypes
+{
+    DriverPrototypes()
+    {
+        Hardware::VDeviceConfig::registerConfig(new Kilnjet::VPrinterDriver(QUuid()));
+        Hardware::VDeviceConfig::registerConfig(new Kilnjet::VElaborationDriver(QUuid()));
+        Hardware::VDeviceConfig::registerConfig(new Kilnjet::VPrintUnitDriver(QUuid()));
+    }
+};
+
 /// The members are the steps of loading, in this order.
 struct Load
 {
     OwnEnumerations ownEnumerations;
+    DriverPrototypes driverPrototypes;
     CoreEnumerations coreEnumerations;
     ImagingEnumerations imagingEnumerations;
     ColorManagementEnumerations colorManagementEnumerations;
