@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include "DbJobs.h"
+
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QScopeGuard>
+#include <QtCore/QThreadPool>
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+#include <tuple>
+
+namespace Norvane::Kilnjet {
+
+namespace {
+
+// How long a waiting thread trusts that the pool will start the runner, before it looks.
+constexpr std::chrono::milliseconds kPatience(50);
+
+constexpr auto kEveryJob = std::numeric_limits<quint64>::max();
+
+bool poolIsSaturated()
+{
+    const QThreadPool *pool = QThreadPool::globalInstance();
+    return pool->activeThreadCount() >= std::max(1, pool->maxThreadCount());
+}
+
+} // namespace
+
+/// What the pool owns of a runner. When it goes without having come to its end
+/// (QThreadPool::clear()), the jobs must hear of it.
+class DbJobs::RunnerHandle
+{
+public:
+    explicit RunnerHandle(std::shared_ptr<DbJobs> jobs)
+        : m_jobs(std::move(jobs))
+    { }
+    Q_DISABLE_COPY_MOVE(RunnerHandle)
+    ~RunnerHandle()
+    {
+        if (m_ended)
+            return;
+        const std::lock_guard guard(m_jobs->m_mutex);
+        m_jobs->m_runner = Runner::None;
+        m_jobs->m_progress.notify_all();
+    }
+
+    void run()
+    {
+        m_jobs->run();
+        m_ended = true;
+    }
+
+private:
+    const std::shared_ptr<DbJobs> m_jobs;
+    bool m_ended = false;
+};
+
+DbJobs::DbJobs(Work work)
+    : m_work(std::move(work))
+{ }
+
+void DbJobs::schedule(Job job)
+{
+    {
+        const std::lock_guard guard(m_mutex);
+        if (m_closed || (job == Job::Commit && hasUnclaimedCommit()))
+            return;
+        m_pending.push_back({++m_last, job});
+        if (job == Job::Load)
+            m_lastLoad = m_last;
+    }
+    startRunner();
+}
+
+void DbJobs::wait()
+{
+    std::unique_lock guard(m_mutex);
+    const Ticket last = m_last;
+    guard.unlock();
+    waitFor(last);
+}
+
+void DbJobs::waitForLoads()
+{
+    std::unique_lock guard(m_mutex);
+    const Ticket last = m_lastLoad;
+    const bool done = isDone(last);
+    guard.unlock();
+    if (!done)
+        waitFor(last);
+}
+
+void DbJobs::waitFor(Ticket last)
+{
+    if (m_lock.isHeldHere()) {
+        runUpTo(last);
+        return;
+    }
+    std::unique_lock guard(m_mutex);
+    while (!isDone(last)) {
+        const bool runnerIsLost = m_runner == Runner::None && !m_pending.empty();
+        if (!runnerIsLost && m_progress.wait_for(guard, kPatience) == std::cv_status::no_timeout)
+            continue;
+        guard.unlock();
+        if (runnerIsLost) {
+            startRunner();
+        } else if (isStarved()) {
+            const std::lock_guard databaseGuard(m_lock);
+            runUpTo(last);
+        }
+        guard.lock();
+    }
+}
+
+void DbJobs::runPending()
+{
+    runUpTo(kEveryJob);
+}
+
+void DbJobs::noteResult()
+{
+    const std::lock_guard guard(m_mutex);
+    m_resultMissing = false;
+}
+
+bool DbJobs::isIdle() const
+{
+    const std::lock_guard guard(m_mutex);
+    return m_pending.empty() && !m_resultMissing;
+}
+
+void DbJobs::close()
+{
+    const std::lock_guard guard(m_mutex);
+    m_closed = true;
+}
+
+bool DbJobs::isDone(Ticket last) const
+{
+    return (m_running.empty() || m_running.front() > last)
+        && (m_pending.empty() || m_pending.front().ticket > last);
+}
+
+bool DbJobs::hasUnclaimedCommit() const
+{
+    return std::any_of(m_pending.cbegin(), m_pending.cend(),
+                       [](const Pending &pending) { return pending.job == Job::Commit; });
+}
+
+void DbJobs::runUpTo(Ticket last)
+{
+    while (runNext(last)) { }
+}
+
+/// Claims and runs the next job, if its ticket is not above `last`. The caller holds the lock.
+bool DbJobs::runNext(Ticket last)
+{
+    std::unique_lock guard(m_mutex);
+    if (m_pending.empty() || m_pending.front().ticket > last)
+        return false;
+    const Pending next = m_pending.front();
+    m_pending.pop_front();
+    m_running.push_back(next.ticket);
+    m_resultMissing = true;
+    guard.unlock();
+    const auto done = qScopeGuard([this] {
+        const std::lock_guard doneGuard(m_mutex);
+        m_running.pop_back();
+        m_resultMissing = false;
+        m_progress.notify_all();
+    });
+    m_work(next.job);
+    return true;
+}
+
+/// Gives a runner to the pool, unless there is one.
+void DbJobs::startRunner()
+{
+    {
+        const std::lock_guard guard(m_mutex);
+        if (m_runner != Runner::None || m_pending.empty())
+            return;
+        m_runner = Runner::Queued;
+    }
+    auto handle = std::make_shared<RunnerHandle>(shared_from_this());
+    // Nobody needs the future: m_running and m_pending say what is done.
+    std::ignore = QtConcurrent::run(QThreadPool::globalInstance(),
+                                    [handle = std::move(handle)] { handle->run(); });
+}
+
+void DbJobs::run()
+{
+    {
+        const std::lock_guard guard(m_mutex);
+        m_runner = Runner::Running;
+    }
+    while (!endRunnerIfIdle()) {
+        const std::lock_guard databaseGuard(m_lock);
+        runNext(kEveryJob);
+    }
+}
+
+bool DbJobs::endRunnerIfIdle()
+{
+    const std::lock_guard guard(m_mutex);
+    if (!m_pending.empty())
+        return false;
+    m_runner = Runner::None;
+    return true;
+}
+
+/// True when the runner waits for a thread of a pool that has none to give: its threads may be
+/// waiting for the caller.
+bool DbJobs::isStarved() const
+{
+    {
+        const std::lock_guard guard(m_mutex);
+        if (m_runner != Runner::Queued)
+            return false;
+    }
+    return poolIsSaturated();
+}
+
+} // namespace Norvane::Kilnjet
