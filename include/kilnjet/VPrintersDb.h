@@ -26,7 +26,9 @@ class VPrintersDbPrivate;
 ///
 /// Threads: edits and queries from any thread, serialised by one recursive lock; construct, init()
 /// and destroy in the owner's thread. After init(true) the load and the commits run on the global
-/// thread pool, one at a time and in order; signals come from the thread that does the work.
+/// thread pool, one at a time and in order; signals come from the thread that does the work. An edit
+/// waits for a load that was asked for before it; a query gives what is there. Every operation may
+/// be called from a slot, direct or queued: none waits for the thread that calls it.
 /// Failures: bool results, isNull() and error(). Nothing throws, nothing is logged. A commit that
 /// fails keeps what it could not write for the next one.
 class VKILNJET_EXPORT VPrintersDb : public QObject
@@ -35,8 +37,8 @@ class VKILNJET_EXPORT VPrintersDb : public QObject
     Q_DISABLE_COPY_MOVE(VPrintersDb)
 
 public:
-    /// Keeps its entries in the file `fileName`, signed with `key` (empty: not signed). Nothing is read
-    /// before init().
+    /// Keeps its entries in the file `fileName`, signed with `key` (empty: not signed). Nothing is
+    /// read before init().
     VPrintersDb(const QString &fileName, const QString &key, QObject *parent = nullptr);
     /// Uses `device`, which stays the caller's and must outlive the database; null means "no file".
     VPrintersDb(QIODevice *device, const QString &key, QObject *parent = nullptr);
@@ -49,20 +51,24 @@ public:
     /// Loads the file, or creates it when it is missing or empty. With `background` this returns at
     /// once and later commits run in the background too; else all is done on return.
     void init(bool background);
-    /// True when no load or commit is outstanding and the last load did not fail.
+    /// True when no load or commit is outstanding and the last load did not fail. Takes no lock, like
+    /// isNull().
     bool isReady() const;
     /// True when the last load failed.
     bool isNull() const;
     /// True when there are edits that the file does not have yet.
     bool isDirty() const;
-    /// Blocks until the outstanding loads and commits are done.
+    /// Blocks until the outstanding loads and commits are done and have said so. Inside a slot that
+    /// one of them calls it does the others.
     void waitForFinished();
 
-    /// Stores each valid driver under its content id; an invalid one removes the entry of that id. Always true.
+    /// Stores each valid driver under its content id; an invalid one removes the entry of that id.
+    /// Always true.
     bool insert(const QList<VPrinterDriver> &drivers);
     bool insert(const VPrinterDriver &driver);
     /// Adds valid drivers that are never written, unless their content id belongs to a persistent
-    /// entry. Volatile entries of earlier calls stay, but are no longer marked. True when anything changed.
+    /// entry. Volatile entries of earlier calls stay, but are no longer marked. True when anything
+    /// changed.
     bool insertVolatile(const QList<VPrinterDriver> &drivers);
     bool insertVolatile(const VPrinterDriver &driver);
     /// As insertVolatile(), and drops the volatile entries that are not in the list.
@@ -128,11 +134,8 @@ private Q_SLOTS:
     void onCommitted();
 
 private:
-    friend class VPrintersDbPrivate;
-
-    void connectSignals();
-    void _init(); ///< Takes the lock by itself, like _commit().
-    void _commit();
+    void _init(); ///< Loads. Takes the lock by itself.
+    void _commit(); ///< Writes. Likewise.
     bool _insert(const QList<VPrinterDriver> &drivers); ///< Lock held by the caller; emits nothing.
     bool _insertVolatile(const QList<VPrinterDriver> &drivers, bool replace); ///< Likewise.
     bool _removes(const QList<QUuid> &ids); ///< Likewise.

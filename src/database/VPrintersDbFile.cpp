@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+// How the database reads and writes its file.
+
+#include <kilnjet/VPrintersDb.h>
+
+#include "DriverRecord.h"
+#include "VPrintersDb_p.h"
+
+#include <vcommon/VDBIterator.h>
+#include <vcore/VLocale.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Kilnjet {
+
+namespace {
+
+using Database::VDBIterator;
+using Database::VDBRecord;
+using Database::VDBText;
+
+bool openOrCreate(VDBText &store, QIODevice *device)
+{
+    return store.open(device)
+        || store.create(device, DriverRecord::idField(),
+                        VDBText::WithCulture | VDBText::WithSignature,
+                        VLocale(u"en-US"_s, QLocale::OmitGroupSeparator), u"2"_s);
+}
+
+QMap<QUuid, VPrinterDriver> readDrivers(VDBText &store)
+{
+    VDBRecord first;
+    VDBRecord last;
+    store.first(first);
+    store.last(last);
+    VDBIterator end(store, last);
+    ++end;
+    QMap<QUuid, VPrinterDriver> drivers;
+    for (VDBIterator it(store, first); it != end; ++it) {
+        if (const auto driver = DriverRecord::toDriver(*it))
+            drivers.insert(driver->dataId(), *driver);
+    }
+    return drivers;
+}
+
+void writeDriver(VDBText &store, const QUuid &id, const VPrinterDriver &driver)
+{
+    const QString text = DriverRecord::textFromId(id);
+    if (store.contains(text))
+        store.remove(text);
+    if (driver.isValid())
+        store.insert(DriverRecord::fromDriver(driver));
+}
+
+} // namespace
+
+void VPrintersDb::_init()
+{
+    const auto guard = d->locked();
+    d->setKeyToRead();
+    if (!d->device || !openOrCreate(d->store, d->device)) {
+        d->null = true;
+        d->jobs->noteResult();
+        Q_EMIT error();
+        return;
+    }
+    d->null = false;
+    QMap<QUuid, VPrinterDriver> loaded = readDrivers(d->store);
+    d->store.close();
+    d->drivers = std::move(loaded);
+    d->jobs->noteResult();
+    Q_EMIT initialized();
+}
+
+void VPrintersDb::_commit()
+{
+    const auto guard = d->locked();
+    if (!d->device || d->dirtyIds.isEmpty())
+        return;
+    d->setKeyToWrite();
+    if (!d->store.open(d->device)) {
+        d->jobs->noteResult();
+        Q_EMIT error();
+        return;
+    }
+    for (const QUuid &id : std::as_const(d->dirtyIds))
+        writeDriver(d->store, id, d->value(id));
+    d->store.close();
+    const bool written = d->store.wasDurable();
+    if (written)
+        d->dirtyIds.clear();
+    d->jobs->noteResult();
+    if (written)
+        Q_EMIT committed();
+    else
+        Q_EMIT error();
+}
+
+} // namespace Norvane::Kilnjet
