@@ -84,10 +84,8 @@ void IconImages::add(const QImage &image)
 QList<QSize> IconImages::sizes() const
 {
     QList<QSize> sizes;
-    for (const QImage &image : m_images) {
-        if (!sizes.contains(image.size()))
-            sizes.append(image.size());
-    }
+    for (const QImage &image : m_images)
+        sizes.append(image.size());
     return sizes;
 }
 

@@ -16,7 +16,7 @@ class IconPixels
 public:
     virtual ~IconPixels() = default;
 
-    /// The sizes there are images of, in the order of their addition.
+    /// The sizes there are images of, in the order of their addition; a size may stand there twice.
     virtual QList<QSize> sizes() const = 0;
     /// The image that best fits `size`, scaled down to it if it is larger; null without any image.
     virtual QImage image(const QSize &size) const = 0;
