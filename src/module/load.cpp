@@ -58,6 +58,18 @@ using OwnEnumerations =
                       Kilnjet::ElaborationType_T, Kilnjet::LevelManagement_T, Channel_T,
                       ChannelV100Sort_T>;
 
+/// One prototype of each driver; the framework keeps them for good.
+struct DriverPrototypes
+{
+    DriverPrototypes()
+    {
+        using Hardware::VDeviceConfig;
+        VDeviceConfig::registerConfig(new Kilnjet::VPrinterDriver(QUuid()));
+        VDeviceConfig::registerConfig(new Kilnjet::VElaborationDriver(QUuid()));
+        VDeviceConfig::registerConfig(new Kilnjet::VPrintUnitDriver(QUuid()));
+    }
+};
+
 using CoreEnumerations =
     VEnumRegistration<Bool_T, MetadataFlags_T, Compression::CompressionAlgorithm_T,
                       OperatingSystemType_T, ByteOrder_T, BinaryUnit_T, IconStyle_T, QtColor_T,
@@ -75,17 +87,6 @@ using ColorManagementEnumerations =
     VEnumRegistration<Lcms::ClassSignature_T, Lcms::ColorSpaceSignature_T, Lcms::IntentDirection_T,
                       Lcms::ProcessFlags_T, Lcms::ProfileHeaderAttributes_T,
                       Lcms::ProfileHeaderFlags_T, Lcms::ProfileInfoType_T, Lcms::RenderingIntent_T>;
-
-/// The registry owns the prototypes, beyond the life of this library too: nothing to undo.
-struct DriverPrototypes
-{
-    DriverPrototypes()
-    {
-        Hardware::VDeviceConfig::registerConfig(new Kilnjet::VPrinterDriver(QUuid()));
-        Hardware::VDeviceConfig::registerConfig(new Kilnjet::VElaborationDriver(QUuid()));
-        Hardware::VDeviceConfig::registerConfig(new Kilnjet::VPrintUnitDriver(QUuid()));
-    }
-};
 
 /// The members are the steps of loading, in this order.
 struct Load
