@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include "CheckedFile.h"
+
+#include <QtCore/QHash>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Kilnjet::Tool {
+
+CheckedFile checkFile(const QString &name, const QByteArray &text)
+{
+    CheckedFile file{RecordFile(name, text), {}, {}};
+    file.findings = file.source.findings();
+    QList<RecordFinding> found;
+    const QList<RecordInput> &records = file.source.records();
+    for (qsizetype i = 0; i < records.size(); ++i) {
+        const CheckedRecord checked = checkRecord(records.at(i).value);
+        for (const Finding &finding : checked.findings)
+            found.append({i, finding});
+        if (checked.driver)
+            file.accepted.append({*checked.driver, i});
+    }
+    file.findings += file.source.located(found);
+    return file;
+}
+
+void findRepeats(QList<CheckedFile> &files)
+{
+    QHash<QUuid, QString> places;
+    for (CheckedFile &file : files) {
+        QList<RecordFinding> repeats;
+        for (const AcceptedRecord &accepted : file.accepted) {
+            const QUuid id = accepted.driver.dataId();
+            const QString label = file.source.records().at(accepted.record).label;
+            const QString place =
+                label.isEmpty() ? file.source.name() : file.source.name() + u": "_s + label;
+            if (!places.contains(id)) {
+                places.insert(id, place);
+                continue;
+            }
+            const Finding finding{
+                .reason = u"this record has the content id of %1 and would replace it"_s.arg(
+                    places.value(id)),
+                .hint =
+                    u"device id, faces mode, printer class and maximum faces make the content id"_s};
+            repeats.append({accepted.record, finding});
+        }
+        file.findings += file.source.located(repeats);
+    }
+}
+
+} // namespace Norvane::Kilnjet::Tool
