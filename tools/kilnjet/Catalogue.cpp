@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include "Catalogue.h"
+
+#include "Console.h"
+#include "Text.h"
+
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Kilnjet::Tool {
+
+namespace {
+
+using Database::VDBStatus;
+
+bool isAbsent(VDBStatus status)
+{
+    return status == VDBStatus::NotFound || status == VDBStatus::Empty;
+}
+
+/// The failure of a database that could not be created.
+Failure creationFailure(const QString &path)
+{
+    Failure failure{.code = ExitCode::Io, .where = path, .what = u"cannot create the database"_s};
+    const QFileInfo folder(QFileInfo(path).absolutePath());
+    if (!folder.isDir())
+        failure.why = u"there is no folder %1"_s.arg(quoted(folder.filePath()));
+    else if (!folder.isWritable())
+        failure.why = u"the folder %1 cannot be written to"_s.arg(quoted(folder.filePath()));
+    else
+        failure.why = u"the system refused it"_s;
+    return failure;
+}
+
+} // namespace
+
+Catalogue::Catalogue(const StoreSettings &settings, Mode mode, Console &console)
+    : m_settings(settings)
+    , m_mode(mode)
+    , m_file(settings.path)
+{
+    const bool edits = mode == Mode::Edit || mode == Mode::EditOrCreate;
+    const StoreSurvey survey = surveyStore(settings, edits ? Access::Write : Access::Read);
+    const bool mayBeAbsent = mode == Mode::EditOrCreate || mode == Mode::ReadIfThere;
+    if (survey.status != VDBStatus::Ok && !(mayBeAbsent && isAbsent(survey.status)))
+        throw storeFailure(survey.status, survey.error, settings.path);
+    load(survey, console);
+}
+
+void Catalogue::load(const StoreSurvey &survey, Console &console)
+{
+    if (m_mode == Mode::Edit || m_mode == Mode::EditOrCreate) {
+        m_database = std::make_unique<VPrintersDb>(m_settings.path, m_settings.key);
+    } else if (isAbsent(survey.status)) {
+        // Never loaded, so it stays empty and touches no file.
+        m_database = std::make_unique<VPrintersDb>(static_cast<QIODevice *>(nullptr), QString());
+        return;
+    } else {
+        if (!m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+            throw storeFailure(VDBStatus::Io, m_file.errorString(), m_settings.path);
+        m_database = std::make_unique<VPrintersDb>(&m_file, m_settings.key);
+    }
+    m_database->init(false);
+    if (m_database->isNull()) {
+        const StoreSurvey again = surveyStore(m_settings, Access::Read);
+        if (isAbsent(again.status))
+            throw creationFailure(m_settings.path);
+        throw storeFailure(again.status == VDBStatus::Ok ? VDBStatus::Io : again.status,
+                           again.error, m_settings.path);
+    }
+    const qsizetype leftOut = survey.count - m_database->count();
+    const QString hint = u"'kilnjet verify %1' tells more"_s.arg(m_settings.path);
+    if (leftOut > 0) {
+        console.warn(m_settings.path,
+                     u"%1 left out, because it cannot be read"_s.arg(counted(leftOut, u"record"_s)),
+                     hint);
+    } else if (!survey.damage.isEmpty()) {
+        console.warn(m_settings.path, u"parts of the file are damaged"_s, hint);
+    }
+}
+
+QList<VPrinterDriver> Catalogue::machines()
+{
+    QList<VPrinterDriver> machines = m_database->values();
+    std::stable_sort(machines.begin(), machines.end(),
+                     [](const VPrinterDriver &a, const VPrinterDriver &b) {
+                         return a.name().compare(b.name(), Qt::CaseInsensitive) < 0;
+                     });
+    return machines;
+}
+
+void Catalogue::commit()
+{
+    bool isCommitted = false;
+    QObject::connect(m_database.get(), &VPrintersDb::committed, [&] { isCommitted = true; });
+    const bool isDirty = m_database->isDirty();
+    m_database->commit();
+    // Its destructor tries once more, so the outcome is known only behind it.
+    m_database.reset();
+    if (isCommitted || !isDirty)
+        return;
+    const StoreSurvey survey = surveyStore(m_settings, Access::Write);
+    Failure failure = storeFailure(survey.status, survey.error, m_settings.path);
+    failure.what = u"cannot write the changes"_s;
+    throw failure;
+}
+
+} // namespace Norvane::Kilnjet::Tool

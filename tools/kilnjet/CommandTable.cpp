@@ -1,0 +1,272 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include "Command.h"
+
+#include "Commands.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Norvane::Kilnjet::Tool {
+
+namespace {
+
+constexpr Operand kMachines{"ID|NAME"_L1, 1, Operand::kAnyNumber,
+                            "the machines, by content id, the first digits of one, or name"_L1};
+constexpr Operand kMachine{"ID|NAME"_L1, 1, 1,
+                           "the machine, by content id, the first digits of one, or name"_L1};
+constexpr ExitMeaning kNotFound{ExitCode::Finding,
+                                "a machine was not found, or a name fits several machines"_L1};
+
+Command importCommand()
+{
+    return {
+        .name = "import"_L1,
+        .summary = "Check records in JSON and store them in the database"_L1,
+        .description =
+            "Reads printer drivers: one record object, an array of records, or one record a line. "
+            "The database is created when it is missing.\n"
+            "Every record of every file is checked before anything is stored, and all are stored "
+            "together or none is. Refused is whatever could not be stored as it was written: text "
+            "that is no JSON, missing, misspelt or ill-typed keys, unknown names of values, images "
+            "that do not decode, invalid records, two records with the same content id. Each "
+            "finding names the file, the line, the record and the place in it.\n"
+            "Keys that no record has are reported and not kept. Children of an unknown kind are "
+            "reported and kept as they came.\n"
+            "A record replaces the stored one with the same content id, which is made of device "
+            "id, "
+            "faces mode, printer class and maximum faces; equal ones are left alone."_L1,
+        .operands = {{"FILE"_L1, 1, Operand::kAnyNumber,
+                      "the files to read; \"-\" is the standard input"_L1}},
+        .options = {{"--dry-run"_L1, ""_L1, ""_L1, "check and report, store nothing"_L1}},
+        .exitCodes = {{ExitCode::Finding, "a record was refused; nothing was stored"_L1}},
+        .examples = {{"import machines.json"_L1, "store every machine of a file"_L1},
+                     {"import --dry-run machines.json"_L1, "see what would change"_L1},
+                     {"--db other.tdb export | kilnjet import -"_L1,
+                      "take over the machines of another database"_L1}},
+        .run = runImport,
+    };
+}
+
+Command listCommand()
+{
+    return {
+        .name = "list"_L1,
+        .summary = "List the machines of the database"_L1,
+        .description = "One line a machine, ordered by name."_L1,
+        .operands = {},
+        .options = {},
+        .exitCodes = {},
+        .examples = {{"list"_L1, "the machines of Printers.tdb"_L1},
+                     {"--db plant.tdb list --json"_L1, "the same as JSON, of another file"_L1}},
+        .run = runList,
+    };
+}
+
+Command showCommand()
+{
+    return {
+        .name = "show"_L1,
+        .summary = "Show one machine"_L1,
+        .description =
+            "A sheet to read; with --json the content id and the whole record.\n"
+            "A name is compared exactly first, then without regard to case. A content id may be "
+            "written with or without braces, or shortened to at least four digits."_L1,
+        .operands = {kMachine},
+        .options = {},
+        .exitCodes = {kNotFound},
+        .examples = {{"show \"Kiln line 4\""_L1, "by name"_L1},
+                     {"show 3f2a --json"_L1, "by the first digits of its id, as JSON"_L1}},
+        .run = runShow,
+    };
+}
+
+Command exportCommand()
+{
+    return {
+        .name = "export"_L1,
+        .summary = "Write records as JSON"_L1,
+        .description =
+            "An array of whole records, ordered by content id, which import takes back unchanged. "
+            "Without operands: every machine.\n"
+            "A file given with --output is written beside its place, synced and then moved there: "
+            "it "
+            "is complete or untouched."_L1,
+        .operands = {{"ID|NAME"_L1, 0, Operand::kAnyNumber, "the machines; all when left out"_L1}},
+        .options = {{"--output"_L1, "-o"_L1, "FILE"_L1,
+                     "write to FILE instead of the standard output"_L1}},
+        .exitCodes = {kNotFound},
+        .examples = {{"export --output machines.json"_L1, "all machines into a file"_L1},
+                     {"export \"Kiln line 4\""_L1, "one machine to the standard output"_L1}},
+        .run = runExport,
+    };
+}
+
+Command removeCommand()
+{
+    return {
+        .name = "remove"_L1,
+        .summary = "Remove machines from the database"_L1,
+        .description = "All of them are removed, or none when one is not found."_L1,
+        .operands = {kMachines},
+        .options = {},
+        .exitCodes = {kNotFound},
+        .examples = {{"remove \"Kiln line 4\""_L1, "by name"_L1},
+                     {"remove 3f2a 90c1"_L1, "two machines by the first digits of their ids"_L1}},
+        .run = runRemove,
+    };
+}
+
+Command renameCommand()
+{
+    return {
+        .name = "rename"_L1,
+        .summary = "Give a machine another name"_L1,
+        .description = "The content id stays. The date of the record becomes the present time. "
+                       "Another machine "
+                       "of the same name is reported, not refused."_L1,
+        .operands = {kMachine, {"NEW-NAME"_L1, 1, 1, "its new name"_L1}},
+        .options = {},
+        .exitCodes =
+            {{ExitCode::Finding,
+              "the machine was not found, its name fits several machines, or it is not valid"_L1}},
+        .examples = {{"rename \"Kiln line 4\" \"Kiln line 5\""_L1, "by name"_L1},
+                     {"rename 3f2a \"Kiln line 5\""_L1, "by the first digits of its id"_L1}},
+        .run = runRename,
+    };
+}
+
+Command enumsCommand()
+{
+    return {
+        .name = "enums"_L1,
+        .summary = "List the enumerations and the names of their values"_L1,
+        .description =
+            "The names are what records store. Without NAME: all enumerations, and how many values "
+            "each has."_L1,
+        .operands = {{"NAME"_L1, 0, 1, "an enumeration"_L1}},
+        .options = {},
+        .exitCodes = {{ExitCode::Finding, "there is no such enumeration"_L1}},
+        .examples = {{"enums"_L1, "all enumerations"_L1},
+                     {"enums Channel"_L1, "the channels with their numbers"_L1}},
+        .run = runEnums,
+    };
+}
+
+Command validateCommand()
+{
+    return {
+        .name = "validate"_L1,
+        .summary = "Check the records of files or databases"_L1,
+        .description =
+            "Applies the checks of import to files in JSON, and to every record stored in a "
+            "database. Which of the two a file is shows in its first bytes.\n"
+            "The findings are the command's output. Warnings alone leave the exit code at 0."_L1,
+        .operands = {{"FILE|DB"_L1, 1, Operand::kAnyNumber,
+                      "files in JSON or databases; \"-\" is the standard input"_L1}},
+        .options = {},
+        .exitCodes = {{ExitCode::Finding, "a record would be refused"_L1}},
+        .examples = {{"validate machines.json"_L1, "before an import"_L1},
+                     {"validate Printers.tdb --json"_L1, "what is stored already, as JSON"_L1}},
+        .run = runValidate,
+    };
+}
+
+Command verifyCommand()
+{
+    return {
+        .name = "verify"_L1,
+        .summary = "Check a database file from its first byte to its last"_L1,
+        .description = "Reports every record that a program which opens the database does not get "
+                       "to see, with "
+                       "its line, its id and the reason, and every stretch of bytes that is "
+                       "damaged. Nothing is "
+                       "repaired: all other records are sound and can be exported.\n"
+                       "A batch that was never completed, as a crash leaves it, and odd line ends "
+                       "lose nothing "
+                       "that was stored; they are reported and count as findings."_L1,
+        .operands = {{"DB"_L1, 0, 1, "the database; that of --db when left out"_L1}},
+        .options = {},
+        .exitCodes = {{ExitCode::Finding,
+                       "records are left out because of their content, or bytes that "
+                       "belong to no record lie about"_L1},
+                      {ExitCode::Damaged,
+                       "the file is damaged, no database, or of a newer format"_L1}},
+        .examples = {{"verify"_L1, "check Printers.tdb"_L1},
+                     {"verify backup.tdb --json"_L1, "check a copy, for a script"_L1}},
+        .run = runVerify,
+    };
+}
+
+Command helpCommand()
+{
+    return {
+        .name = "help"_L1,
+        .summary = "Explain the tool or one of its commands"_L1,
+        .description = ""_L1,
+        .operands = {{"COMMAND"_L1, 0, 1, "the command to explain"_L1}},
+        .options = {},
+        .exitCodes = {},
+        .examples = {{"help"_L1, "all commands"_L1}, {"help import"_L1, "one command"_L1}},
+        .run = runHelp,
+    };
+}
+
+} // namespace
+
+const QList<Command> &commandTable()
+{
+    static const QList<Command> table{
+        importCommand(), listCommand(),  showCommand(),     exportCommand(), removeCommand(),
+        renameCommand(), enumsCommand(), validateCommand(), verifyCommand(), helpCommand(),
+    };
+    return table;
+}
+
+const QList<Option> &globalOptions()
+{
+    static const QList<Option> options{
+        {"--db"_L1, ""_L1, "FILE"_L1, "the database (Printers.tdb when left out)"_L1},
+        {"--key-file"_L1, ""_L1, "FILE"_L1,
+         "the database's key is the content of FILE, without the line end at its end"_L1},
+        {"--wait"_L1, ""_L1, "SECONDS"_L1,
+         "how long to wait for another process that holds the database (10)"_L1},
+        {"--json"_L1, ""_L1, ""_L1, "write data and messages as JSON"_L1},
+        {"--help"_L1, "-h"_L1, ""_L1, "show this help"_L1},
+        {"--version"_L1, ""_L1, ""_L1, "show the tool's version"_L1},
+    };
+    return options;
+}
+
+const QList<ExitMeaning> &exitCodeTable()
+{
+    static const QList<ExitMeaning> codes{
+        {ExitCode::Done, "done"_L1},
+        {ExitCode::Finding, "something is wrong with a record, or was not found"_L1},
+        {ExitCode::Usage, "the command line cannot be understood"_L1},
+        {ExitCode::Io, "a file is missing or could not be read or written"_L1},
+        {ExitCode::Damaged, "the database is damaged, no database, or of a newer format"_L1},
+        {ExitCode::WrongKey, "the key is wrong or missing"_L1},
+        {ExitCode::Locked, "another process holds the database"_L1},
+    };
+    return codes;
+}
+
+const Command *findCommand(const QString &name)
+{
+    for (const Command &command : commandTable()) {
+        if (name == command.name)
+            return &command;
+    }
+    return nullptr;
+}
+
+QStringList commandNames()
+{
+    QStringList names;
+    for (const Command &command : commandTable())
+        names.append(command.name);
+    return names;
+}
+
+} // namespace Norvane::Kilnjet::Tool

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include "Failure.h"
+
+/// The functions behind the command table, each in a file of its own under commands/.
+namespace Norvane::Kilnjet::Tool {
+
+class Console;
+struct Invocation;
+
+ExitCode runEnums(const Invocation &invocation, Console &console);
+ExitCode runExport(const Invocation &invocation, Console &console);
+ExitCode runHelp(const Invocation &invocation, Console &console);
+ExitCode runImport(const Invocation &invocation, Console &console);
+ExitCode runList(const Invocation &invocation, Console &console);
+ExitCode runRemove(const Invocation &invocation, Console &console);
+ExitCode runRename(const Invocation &invocation, Console &console);
+ExitCode runShow(const Invocation &invocation, Console &console);
+ExitCode runValidate(const Invocation &invocation, Console &console);
+ExitCode runVerify(const Invocation &invocation, Console &console);
+
+} // namespace Norvane::Kilnjet::Tool

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include "Failure.h"
+#include "Finding.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QString>
+
+namespace Norvane::Kilnjet::Tool {
+
+/// Where a command's words go: data to standard output, messages to standard error, as text for
+/// people or as JSON.
+class Console
+{
+public:
+    enum class Format
+    {
+        Text,
+        Json
+    };
+
+    explicit Console(Format format);
+    Q_DISABLE_COPY_MOVE(Console)
+
+    bool isJson() const { return m_format == Format::Json; }
+
+    /// Writes data. The caller has made text that came from elsewhere printable().
+    void write(const QString &text);
+    void write(const QJsonObject &object);
+    void write(const QJsonArray &array);
+    void write(const QByteArray &bytes);
+
+    /// A message that does not end the command.
+    void warn(const QString &where, const QString &text, const QString &hint = QString());
+    void warn(const Finding &finding);
+    /// The message with which the command ends.
+    void fail(const Failure &failure);
+
+    /// Makes sure that the data has been written; false when some of it could not be. A reader that
+    /// went away is not worth a message, everything else is.
+    [[nodiscard]] bool finish();
+
+private:
+    void flush();
+    void writeMessage(const QString &text);
+    void writeMessage(const QJsonObject &object);
+
+    Format m_format;
+    QByteArray m_pending;
+    int m_error = 0; ///< The system's number for the first write that failed.
+};
+
+} // namespace Norvane::Kilnjet::Tool

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include "Failure.h"
+
+#include <kilnjet/VPrinterDriver.h>
+#include <vcommon/VDBText.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+namespace Norvane::Kilnjet::Tool {
+
+struct Invocation;
+
+/// Which database a command works on, and how.
+struct StoreSettings
+{
+    QString path;
+    QString key; ///< Empty without one.
+    std::chrono::milliseconds wait{0};
+
+    /// As the tool's options say; throws a Failure when they make no sense or the key cannot be read.
+    static StoreSettings from(const Invocation &invocation);
+};
+
+/// What a database file shows before anything is done with it.
+struct StoreSurvey
+{
+    Database::VDBStatus status = Database::VDBStatus::Ok;
+    QString error = {}; ///< The system's words.
+    qsizetype count = 0; ///< The live records, those that cannot be read included.
+    bool isKeyed = false;
+    QList<Database::VDBDamage> damage = {};
+};
+
+enum class Access
+{
+    Read,
+    Write
+};
+
+/// Opens the file for `access`, looks through it and closes it. No byte of it changes.
+StoreSurvey surveyStore(const StoreSettings &settings, Access access);
+
+/// The Failure that a status other than Ok means.
+Failure storeFailure(Database::VDBStatus status, const QString &error, const QString &path);
+
+/// One record as it is stored.
+struct StoredRecord
+{
+    qint64 line = 0;
+    QString id;
+    QByteArray json; ///< The driver's; empty when there is none.
+    std::optional<VPrinterDriver> driver =
+        {}; ///< What a program sees of it: nothing when left out.
+    QString reason = {}; ///< Why it is left out.
+};
+
+/// Calls `visit` for every live record of the file, in file order, judged by the rules by which
+/// VPrintersDb takes records in. Throws a Failure when the file cannot be opened.
+StoreSurvey visitStore(const StoreSettings &settings,
+                       const std::function<void(const StoredRecord &record)> &visit);
+
+/// True when `text` is the beginning of a database file.
+bool isStore(const QByteArray &text);
+
+} // namespace Norvane::Kilnjet::Tool

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#include "Run.h"
+
+#include <QtCore/QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The tool words its own messages; warnings of the libraries beneath would stand between them.
+void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qInstallMessageHandler(ignoreMessage);
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"kilnjet"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(KILNJET_VERSION));
+    return Norvane::Kilnjet::Tool::run(QCoreApplication::arguments().mid(1));
+}
