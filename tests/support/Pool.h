@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <QtCore/QSemaphore>
+#include <QtCore/QThreadPool>
+
+#include <utility>
+
+namespace Support {
+
+/// The global pool without threads: the next task has to start one.
+inline void makePoolCold()
+{
+    QThreadPool::globalInstance()->waitForDone();
+}
+
+/// The global pool with an idle thread.
+inline void makePoolWarm()
+{
+    QSemaphore done;
+    QThreadPool::globalInstance()->start([&done] { done.release(); });
+    done.acquire();
+}
+
+/// Occupies every thread of the global pool, reduced to one, until it is destroyed.
+class SaturatedPool
+{
+public:
+    SaturatedPool()
+    {
+        m_pool->waitForDone();
+        m_pool->setMaxThreadCount(1);
+        m_pool->start([this] {
+            m_started.release();
+            m_end.acquire();
+        });
+        m_started.acquire();
+    }
+    Q_DISABLE_COPY_MOVE(SaturatedPool)
+    ~SaturatedPool()
+    {
+        release();
+        m_pool->waitForDone();
+        m_pool->setMaxThreadCount(m_threads);
+    }
+
+    /// Gives the thread back.
+    void release()
+    {
+        if (!std::exchange(m_isReleased, true))
+            m_end.release();
+    }
+
+private:
+    QThreadPool *const m_pool = QThreadPool::globalInstance();
+    const int m_threads = m_pool->maxThreadCount();
+    QSemaphore m_started;
+    QSemaphore m_end;
+    bool m_isReleased = false;
+};
+
+} // namespace Support
