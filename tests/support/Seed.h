@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QString>
 #include <QtCore/QtGlobal>
 
 #include <cstdio>

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
+#include "support/Seed.h"
+
 #include <vcore/VConvert.h>
 #include <vcore/VVariantConvert.h>
 
-#include <QtCore/QRandomGenerator>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QUuid>
 #include <QtTest/QTest>
@@ -112,9 +113,7 @@ void tst_Convert::toString_writesTheShortestTextForAnyOtherFormat()
 
 void tst_Convert::toString_writesDoublesThatReadBackTheSame()
 {
-    const quint32 seed = QRandomGenerator::global()->generate();
-    qInfo("seed %u", seed);
-    QRandomGenerator random(seed);
+    QRandomGenerator random(Support::seed());
     for (int i = 0; i < 5000; ++i) {
         const double value = std::bit_cast<double>(random.generate64());
         if (!std::isfinite(value))
