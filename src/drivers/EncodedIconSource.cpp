@@ -136,7 +136,7 @@ bool EncodedIconSource::canDecodeAll() const
 QList<EncodedImage> encodedImagesFromFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     const EncodedImage whole{QString::fromLatin1(QImageReader::imageFormat(&file)), file.readAll()};
     if (whole.format.isEmpty())

@@ -65,7 +65,7 @@ inline VPrintUnitDriver printUnit(const QUuid &deviceId = QUuid::createUuid())
     return driver;
 }
 
-/// A valid printer with a print unit and an elaboration, and no icon.
+/// A valid printer with a print unit and an elaboration, and no icon; the same for the same id.
 inline VPrinterDriver validPrinter(const QUuid &deviceId = QUuid::createUuid())
 {
     VPrinterDriver driver(deviceId);
@@ -73,9 +73,9 @@ inline VPrinterDriver validPrinter(const QUuid &deviceId = QUuid::createUuid())
     driver.setPrinterClass(PrinterClass::Inkjet);
     driver.setFacesMode(PrinterFacesMode::Basic);
     driver.setMaximumFaces(4);
-    VPrintUnitDriver unit = printUnit();
+    VPrintUnitDriver unit = printUnit(QUuid::createUuidV5(deviceId, u"unit"_s));
     driver.insert(&unit, false);
-    VElaborationDriver method = elaboration();
+    VElaborationDriver method = elaboration(QUuid::createUuidV5(deviceId, u"elaboration"_s));
     driver.insert(&method, false);
     return driver;
 }

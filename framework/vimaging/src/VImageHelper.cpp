@@ -46,7 +46,7 @@ QIcon VImageHelper::iconFromSvg(const QString &path, const QColor &color, const 
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) == nullptr)
         return {};
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     QSvgRenderer drawing;
     drawing.setFramesPerSecond(0); // An icon needs no animation timer.
