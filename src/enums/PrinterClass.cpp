@@ -11,12 +11,9 @@ namespace Norvane::Kilnjet {
 
 namespace {
 constexpr VEnumEntry<PrinterClass> kNames[] = {
-    {PrinterClass::Inkjet, "Inkjet"_L1},
-    {PrinterClass::Plotter, "Plotter"_L1},
-    {PrinterClass::Engraver, "Engraver"_L1},
-    {PrinterClass::Dryjet, "Dryjet"_L1},
-    {PrinterClass::Develop, "Develop"_L1},
-    {PrinterClass::Unknown, "Unknown"_L1},
+    {PrinterClass::Inkjet, "Inkjet"_L1},     {PrinterClass::Plotter, "Plotter"_L1},
+    {PrinterClass::Engraver, "Engraver"_L1}, {PrinterClass::Dryjet, "Dryjet"_L1},
+    {PrinterClass::Develop, "Develop"_L1},   {PrinterClass::Unknown, "Unknown"_L1},
 };
 } // namespace
 

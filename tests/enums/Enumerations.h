@@ -105,80 +105,100 @@ Enumeration enumeration(const char *typeName, bool isFlags, std::span<const Row>
     return result;
 }
 
-inline QList<Enumeration> allEnumerations()
+constexpr bool kFlags = true;
+constexpr bool kPlain = false;
+
+inline QList<Enumeration> ownEnumerations()
 {
-    constexpr bool kFlags = true;
-    constexpr bool kPlain = false;
+    using namespace Norvane;
+    using namespace Norvane::Kilnjet;
     return {
-        enumeration<Norvane::Kilnjet::PrinterClass>("Norvane::Kilnjet::PrinterClass", kPlain,
-                                                    kPrinterClass),
-        enumeration<Norvane::Kilnjet::PrinterFacesMode>("Norvane::Kilnjet::PrinterFacesMode",
-                                                        kPlain, kPrinterFacesMode),
-        enumeration<Norvane::Kilnjet::PrinterFileCompression>(
-            "Norvane::Kilnjet::PrinterFileCompression", kFlags, kPrinterFileCompression),
-        enumeration<Norvane::Kilnjet::PrinterFileProtection>(
-            "Norvane::Kilnjet::PrinterFileProtection", kFlags, kPrinterFileProtection),
-        enumeration<Norvane::Kilnjet::ElaborationType>("Norvane::Kilnjet::ElaborationType", kPlain,
-                                                       kElaborationType),
-        enumeration<Norvane::Kilnjet::LevelManagement>("Norvane::Kilnjet::LevelManagement", kPlain,
-                                                       kLevelManagement),
-        enumeration<Norvane::Channel>("Norvane::Channel", kPlain, kChannel),
+        enumeration<PrinterClass>("Norvane::Kilnjet::PrinterClass", kPlain, kPrinterClass),
+        enumeration<PrinterFacesMode>("Norvane::Kilnjet::PrinterFacesMode", kPlain,
+                                      kPrinterFacesMode),
+        enumeration<PrinterFileCompression>("Norvane::Kilnjet::PrinterFileCompression", kFlags,
+                                            kPrinterFileCompression),
+        enumeration<PrinterFileProtection>("Norvane::Kilnjet::PrinterFileProtection", kFlags,
+                                           kPrinterFileProtection),
+        enumeration<ElaborationType>("Norvane::Kilnjet::ElaborationType", kPlain, kElaborationType),
+        enumeration<LevelManagement>("Norvane::Kilnjet::LevelManagement", kPlain, kLevelManagement),
+        enumeration<Channel>("Norvane::Channel", kPlain, kChannel),
         enumeration<ChannelV100Sort>("ChannelV100Sort", kPlain, kChannelV100Sort),
-        enumeration<Norvane::Bool>("Norvane::Bool", kPlain, kBool),
-        enumeration<Norvane::OperatingSystemType>("Norvane::OperatingSystemType", kPlain,
-                                                  kOperatingSystemType),
-        enumeration<Norvane::ByteOrder>("Norvane::ByteOrder", kPlain, kByteOrder),
-        enumeration<Norvane::Compression::CompressionAlgorithm>(
-            "Norvane::Compression::CompressionAlgorithm", kPlain, kCompressionAlgorithm),
-        enumeration<Norvane::BinaryUnit>("Norvane::BinaryUnit", kPlain, kBinaryUnit),
-        enumeration<Norvane::IconStyle>("Norvane::IconStyle", kPlain, kIconStyle),
-        enumeration<Norvane::QtColor>("Norvane::QtColor", kPlain, kQtColor),
-        enumeration<Norvane::SCSLengthUnit>("Norvane::SCSLengthUnit", kPlain, kSCSLengthUnit),
-        enumeration<Norvane::SILengthUnit>("Norvane::SILengthUnit", kPlain, kSILengthUnit),
-        enumeration<Norvane::SIPrefix>("Norvane::SIPrefix", kPlain, kSIPrefix),
-        enumeration<Norvane::WebColor>("Norvane::WebColor", kPlain, kWebColor),
-        enumeration<Norvane::Imaging::ColorSpace>("Norvane::Imaging::ColorSpace", kPlain,
-                                                  kColorSpace),
-        enumeration<Norvane::Imaging::Filters::FilterOptions>(
-            "Norvane::Imaging::Filters::FilterOptions", kFlags, kFilterOptions),
-        enumeration<Norvane::Imaging::ImageFormat>("Norvane::Imaging::ImageFormat", kPlain,
-                                                   kImageFormat),
-        enumeration<Norvane::Imaging::ImageLoadOptions>("Norvane::Imaging::ImageLoadOptions",
-                                                        kFlags, kImageLoadOptions),
-        enumeration<Norvane::Imaging::ImageSaveOptions>("Norvane::Imaging::ImageSaveOptions",
-                                                        kFlags, kImageSaveOptions),
-        enumeration<Norvane::Imaging::ImageUnusual>("Norvane::Imaging::ImageUnusual", kFlags,
-                                                    kImageUnusual),
-        enumeration<Norvane::Imaging::MeasureUnits>("Norvane::Imaging::MeasureUnits", kPlain,
-                                                    kMeasureUnits),
-        enumeration<Norvane::Imaging::PaletteOrder>("Norvane::Imaging::PaletteOrder", kPlain,
-                                                    kPaletteOrder),
-        enumeration<Norvane::Imaging::RotateFlipType>("Norvane::Imaging::RotateFlipType", kPlain,
-                                                      kRotateFlipType),
-        enumeration<Norvane::Imaging::VirtualFacesMode>("Norvane::Imaging::VirtualFacesMode",
-                                                        kPlain, kVirtualFacesMode),
-        enumeration<Norvane::ColorManagement::LittleCMS::ClassSignature>(
-            "Norvane::ColorManagement::LittleCMS::ClassSignature", kPlain, kClassSignature),
-        enumeration<Norvane::ColorManagement::LittleCMS::ColorSpaceSignature>(
-            "Norvane::ColorManagement::LittleCMS::ColorSpaceSignature", kPlain,
-            kColorSpaceSignature),
-        enumeration<Norvane::ColorManagement::LittleCMS::IntentDirection>(
-            "Norvane::ColorManagement::LittleCMS::IntentDirection", kPlain, kIntentDirection),
-        enumeration<Norvane::ColorManagement::LittleCMS::ProcessFlags>(
-            "Norvane::ColorManagement::LittleCMS::ProcessFlags", kFlags, kProcessFlags),
-        enumeration<Norvane::ColorManagement::LittleCMS::ProfileHeaderAttributes>(
+    };
+}
+
+inline QList<Enumeration> coreEnumerations()
+{
+    using namespace Norvane;
+    using namespace Norvane::Compression;
+    return {
+        enumeration<Bool>("Norvane::Bool", kPlain, kBool),
+        enumeration<OperatingSystemType>("Norvane::OperatingSystemType", kPlain,
+                                         kOperatingSystemType),
+        enumeration<ByteOrder>("Norvane::ByteOrder", kPlain, kByteOrder),
+        enumeration<CompressionAlgorithm>("Norvane::Compression::CompressionAlgorithm", kPlain,
+                                          kCompressionAlgorithm),
+        enumeration<BinaryUnit>("Norvane::BinaryUnit", kPlain, kBinaryUnit),
+        enumeration<IconStyle>("Norvane::IconStyle", kPlain, kIconStyle),
+        enumeration<QtColor>("Norvane::QtColor", kPlain, kQtColor),
+        enumeration<SCSLengthUnit>("Norvane::SCSLengthUnit", kPlain, kSCSLengthUnit),
+        enumeration<SILengthUnit>("Norvane::SILengthUnit", kPlain, kSILengthUnit),
+        enumeration<SIPrefix>("Norvane::SIPrefix", kPlain, kSIPrefix),
+        enumeration<WebColor>("Norvane::WebColor", kPlain, kWebColor),
+        enumeration<MetadataFlags>("Norvane::MetadataFlags", kFlags, kMetadataFlags),
+    };
+}
+
+inline QList<Enumeration> imagingEnumerations()
+{
+    using namespace Norvane::Imaging;
+    return {
+        enumeration<ColorSpace>("Norvane::Imaging::ColorSpace", kPlain, kColorSpace),
+        enumeration<Filters::FilterOptions>("Norvane::Imaging::Filters::FilterOptions", kFlags,
+                                            kFilterOptions),
+        enumeration<ImageFormat>("Norvane::Imaging::ImageFormat", kPlain, kImageFormat),
+        enumeration<ImageLoadOptions>("Norvane::Imaging::ImageLoadOptions", kFlags,
+                                      kImageLoadOptions),
+        enumeration<ImageSaveOptions>("Norvane::Imaging::ImageSaveOptions", kFlags,
+                                      kImageSaveOptions),
+        enumeration<ImageUnusual>("Norvane::Imaging::ImageUnusual", kFlags, kImageUnusual),
+        enumeration<MeasureUnits>("Norvane::Imaging::MeasureUnits", kPlain, kMeasureUnits),
+        enumeration<PaletteOrder>("Norvane::Imaging::PaletteOrder", kPlain, kPaletteOrder),
+        enumeration<RotateFlipType>("Norvane::Imaging::RotateFlipType", kPlain, kRotateFlipType),
+        enumeration<VirtualFacesMode>("Norvane::Imaging::VirtualFacesMode", kPlain,
+                                      kVirtualFacesMode),
+        enumeration<ResolutionUnit>("Norvane::Imaging::ResolutionUnit", kPlain, kResolutionUnit),
+    };
+}
+
+inline QList<Enumeration> colorManagementEnumerations()
+{
+    using namespace Norvane::ColorManagement::LittleCMS;
+    return {
+        enumeration<ClassSignature>("Norvane::ColorManagement::LittleCMS::ClassSignature", kPlain,
+                                    kClassSignature),
+        enumeration<ColorSpaceSignature>("Norvane::ColorManagement::LittleCMS::ColorSpaceSignature",
+                                         kPlain, kColorSpaceSignature),
+        enumeration<IntentDirection>("Norvane::ColorManagement::LittleCMS::IntentDirection", kPlain,
+                                     kIntentDirection),
+        enumeration<ProcessFlags>("Norvane::ColorManagement::LittleCMS::ProcessFlags", kFlags,
+                                  kProcessFlags),
+        enumeration<ProfileHeaderAttributes>(
             "Norvane::ColorManagement::LittleCMS::ProfileHeaderAttributes", kFlags,
             kProfileHeaderAttributes),
-        enumeration<Norvane::ColorManagement::LittleCMS::ProfileHeaderFlags>(
-            "Norvane::ColorManagement::LittleCMS::ProfileHeaderFlags", kFlags, kProfileHeaderFlags),
-        enumeration<Norvane::ColorManagement::LittleCMS::ProfileInfoType>(
-            "Norvane::ColorManagement::LittleCMS::ProfileInfoType", kPlain, kProfileInfoType),
-        enumeration<Norvane::ColorManagement::LittleCMS::RenderingIntent>(
-            "Norvane::ColorManagement::LittleCMS::RenderingIntent", kPlain, kRenderingIntent),
-        enumeration<Norvane::MetadataFlags>("Norvane::MetadataFlags", kFlags, kMetadataFlags),
-        enumeration<Norvane::Imaging::ResolutionUnit>("Norvane::Imaging::ResolutionUnit", kPlain,
-                                                      kResolutionUnit),
+        enumeration<ProfileHeaderFlags>("Norvane::ColorManagement::LittleCMS::ProfileHeaderFlags",
+                                        kFlags, kProfileHeaderFlags),
+        enumeration<ProfileInfoType>("Norvane::ColorManagement::LittleCMS::ProfileInfoType", kPlain,
+                                     kProfileInfoType),
+        enumeration<RenderingIntent>("Norvane::ColorManagement::LittleCMS::RenderingIntent", kPlain,
+                                     kRenderingIntent),
     };
+}
+
+inline QList<Enumeration> allEnumerations()
+{
+    return ownEnumerations() + coreEnumerations() + imagingEnumerations()
+        + colorManagementEnumerations();
 }
 
 } // namespace Tables

@@ -11,12 +11,9 @@ namespace Norvane::ColorManagement::LittleCMS {
 
 namespace {
 constexpr VEnumEntry<ClassSignature> kNames[] = {
-    {ClassSignature::Input, "Input"_L1},
-    {ClassSignature::Display, "Display"_L1},
-    {ClassSignature::Output, "Output"_L1},
-    {ClassSignature::Link, "Link"_L1},
-    {ClassSignature::Abstract, "Abstract"_L1},
-    {ClassSignature::ColorSpace, "ColorSpace"_L1},
+    {ClassSignature::Input, "Input"_L1},           {ClassSignature::Display, "Display"_L1},
+    {ClassSignature::Output, "Output"_L1},         {ClassSignature::Link, "Link"_L1},
+    {ClassSignature::Abstract, "Abstract"_L1},     {ClassSignature::ColorSpace, "ColorSpace"_L1},
     {ClassSignature::NamedColor, "NamedColor"_L1},
 };
 } // namespace

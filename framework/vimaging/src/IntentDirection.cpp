@@ -11,10 +11,8 @@ namespace Norvane::ColorManagement::LittleCMS {
 
 namespace {
 constexpr VEnumEntry<IntentDirection> kNames[] = {
-    {IntentDirection::Input, "Input"_L1},
-    {IntentDirection::Output, "Output"_L1},
-    {IntentDirection::Proof, "Proof"_L1},
-    {IntentDirection::InputOutput, "InputOutput"_L1},
+    {IntentDirection::Input, "Input"_L1}, {IntentDirection::Output, "Output"_L1},
+    {IntentDirection::Proof, "Proof"_L1}, {IntentDirection::InputOutput, "InputOutput"_L1},
     {IntentDirection::All, "All"_L1},
 };
 } // namespace

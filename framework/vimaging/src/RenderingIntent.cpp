@@ -15,18 +15,14 @@ constexpr VEnumEntry<RenderingIntent> kNames[] = {
     {RenderingIntent::IccRelativeColorimetric, "IccRelativeColorimetric"_L1},
     {RenderingIntent::IccSaturation, "IccSaturation"_L1},
     {RenderingIntent::IccAbsoluteColorimetric, "IccAbsoluteColorimetric"_L1},
-    {RenderingIntent::NonIccPreserveKOnlyPerceptual,
-     "NonIccPreserveKOnlyPerceptual"_L1},
+    {RenderingIntent::NonIccPreserveKOnlyPerceptual, "NonIccPreserveKOnlyPerceptual"_L1},
     {RenderingIntent::NonIccPreserveKOnlyRelativeColorimetric,
      "NonIccPreserveKOnlyRelativeColorimetric"_L1},
-    {RenderingIntent::NonIccPreserveKOnlySaturation,
-     "NonIccPreserveKOnlySaturation"_L1},
-    {RenderingIntent::NonIccPreserveKPlanePerceptual,
-     "NonIccPreserveKPlanePerceptual"_L1},
+    {RenderingIntent::NonIccPreserveKOnlySaturation, "NonIccPreserveKOnlySaturation"_L1},
+    {RenderingIntent::NonIccPreserveKPlanePerceptual, "NonIccPreserveKPlanePerceptual"_L1},
     {RenderingIntent::NonIccPreserveKPlaneRelativeColorimetric,
      "NonIccPreserveKPlaneRelativeColorimetric"_L1},
-    {RenderingIntent::NonIccPreserveKPlaneSaturation,
-     "NonIccPreserveKPlaneSaturation"_L1},
+    {RenderingIntent::NonIccPreserveKPlaneSaturation, "NonIccPreserveKPlaneSaturation"_L1},
 };
 } // namespace
 

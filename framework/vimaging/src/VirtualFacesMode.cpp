@@ -11,10 +11,8 @@ namespace Norvane::Imaging {
 
 namespace {
 constexpr VEnumEntry<VirtualFacesMode> kNames[] = {
-    {VirtualFacesMode::None, "None"_L1},
-    {VirtualFacesMode::Sequential, "Sequential"_L1},
-    {VirtualFacesMode::Random, "Random"_L1},
-    {VirtualFacesMode::Rotated, "Rotated"_L1},
+    {VirtualFacesMode::None, "None"_L1},         {VirtualFacesMode::Sequential, "Sequential"_L1},
+    {VirtualFacesMode::Random, "Random"_L1},     {VirtualFacesMode::Rotated, "Rotated"_L1},
     {VirtualFacesMode::Mirrored, "Mirrored"_L1},
 };
 } // namespace

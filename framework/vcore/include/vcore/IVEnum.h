@@ -9,7 +9,8 @@ namespace Norvane {
 
 /// What every enumeration's process-wide runtime object offers, whatever its type.
 ///
-/// Typed conversions are VEnumBase's; names() serves those who meet an enumeration only at run time.
+/// Typed conversions are VEnumBase's; names() serves those who meet an enumeration only at run
+/// time.
 class VCORE_EXPORT IVEnum
 {
 public:

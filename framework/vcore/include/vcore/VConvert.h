@@ -19,9 +19,9 @@ public:
     static QString toString(int value, const QLocale &locale);
     static QString toString(qint64 value, const QLocale &locale);
 
-    /// The number as `locale` writes it in `format`: one of QLocale's letters (e, E, f, F, g, G) and
-    /// a precision of 0 to 99, such as "f2" or "g6". An empty or unknown format gives the shortest
-    /// text that reads back as the same number.
+    /// The number as `locale` writes it in `format`: one of QLocale's letters (e, E, f, F, g, G)
+    /// and a precision of 0 to 99, such as "f2" or "g6". An empty or unknown format gives the
+    /// shortest text that reads back as the same number.
     static QString toString(const double &value, const QString &format, const QLocale &locale);
 
     /// The value as text: through the converter registered for its type (VVariantConvert), as

@@ -17,8 +17,8 @@ public:
     virtual QString name() const = 0;
 
     /// Adds names to `object`, which the library has just filled. Called once, in whichever thread
-    /// uses the enumeration first, while other threads that need it wait: it must not convert values
-    /// of this enumeration itself.
+    /// uses the enumeration first, while other threads that need it wait: it must not convert
+    /// values of this enumeration itself.
     virtual void applyTo(IVEnum *object) = 0;
 };
 

@@ -21,8 +21,8 @@ public:
     ///
     /// A fully transparent `color` keeps the drawing's own colours, any other tints it. The drawing
     /// keeps its proportions, centred on a transparent ground.
-    /// Threads: where QPixmap may be used. Failures: an empty icon when the file cannot be read or is
-    /// no SVG, and in a process without a QGuiApplication.
+    /// Threads: where QPixmap may be used. Failures: an empty icon when the file cannot be read or
+    /// is no SVG, and in a process without a QGuiApplication.
     static QIcon iconFromSvg(const QString &path, const QColor &color, const QList<int> &sizes);
 };
 
