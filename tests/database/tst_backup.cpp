@@ -174,10 +174,7 @@ void tst_backup::backup_saysWhetherTheLiveFileWasCompacted()
 
 void tst_backup::backup_overAForeignFileLeavesIt()
 {
-    QFile foreign(path(u"copy.tdb"_s));
-    QVERIFY(foreign.open(QIODevice::WriteOnly));
-    foreign.write("a letter to the editor\n");
-    foreign.close();
+    QVERIFY(writeBytes(path(u"copy.tdb"_s), "a letter to the editor\n"));
     VPrintersDb database(path(u"live.tdb"_s), QString());
     database.init(false);
     database.insert(printer(u"A"_s));

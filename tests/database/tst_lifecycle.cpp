@@ -137,10 +137,7 @@ void tst_lifecycle::init_withoutADeviceFails()
 
 void tst_lifecycle::init_ofAForeignFileFailsAndLeavesIt()
 {
-    QFile file(path("foreign.tdb"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("a letter to the editor\n");
-    file.close();
+    QVERIFY(writeBytes(path("foreign.tdb"), "a letter to the editor\n"));
     VPrintersDb database(path("foreign.tdb"), QString());
     QSignalSpy errors(&database, &VPrintersDb::error);
     database.init(false);

@@ -13,16 +13,6 @@
 
 using namespace Support;
 
-namespace {
-
-bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-} // namespace
-
 /// restore().
 class tst_restore : public QObject
 {
@@ -218,7 +208,7 @@ void tst_restore::restore_ofAFileThatIsNoneChangesNothing_data()
 void tst_restore::restore_ofAFileThatIsNoneChangesNothing()
 {
     QFETCH(QByteArray, bytes);
-    QVERIFY(writeFile(path(u"copy.tdb"_s), bytes));
+    QVERIFY(writeBytes(path(u"copy.tdb"_s), bytes));
     QStringList events;
     connect(m_database.get(), &VPrintersDb::committed, this, [&] { events += u"committed"_s; });
     connect(m_database.get(), &VPrintersDb::changed, this, [&] { events += u"changed"_s; });

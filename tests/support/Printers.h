@@ -123,6 +123,23 @@ inline Stored storedFrom(const QList<VPrinterDriver> &drivers)
     return !database.isNull() && !database.isDirty();
 }
 
+/// The bytes of such a file.
+inline QByteArray bytesWith(const QList<VPrinterDriver> &drivers, const QString &key = {})
+{
+    QBuffer buffer;
+    VPrintersDb database(&buffer, key);
+    database.init(false);
+    database.insert(drivers);
+    database.commit();
+    return buffer.data();
+}
+
+[[nodiscard]] inline bool writeBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
 inline QByteArray bytesOf(const QString &path)
 {
     QFile file(path);
