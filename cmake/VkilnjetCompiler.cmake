@@ -28,3 +28,8 @@ endif()
 if(NOT VKILNJET_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang" AND NOT APPLE AND NOT WIN32)
     target_link_options(vkilnjet_compiler INTERFACE -Wl,--no-undefined)
 endif()
+
+# clang-tidy takes the settings of the nearest folder above a file: those of generated files are these.
+if(CMAKE_CXX_CLANG_TIDY)
+    file(WRITE "${PROJECT_BINARY_DIR}/.clang-tidy" "Checks: '-*,misc-definitions-in-headers'\n")
+endif()
