@@ -82,15 +82,6 @@ public:
     bool setJsonObject(const QJsonObject &object) override;
     QUuid dataId() const override;
 
-    /// The envelope with the class's own fields under "config".
-    QJsonObject toJsonObject() const override;
-    /// SHA-256 over the compact JSON without "dateTime" and "metadata", its own and its children's.
-    QByteArray hash() const override;
-    /// The text of `format`, in which %n stands for the name, %d the description, %v the version,
-    /// %i the device id, %c the content id and %% for a percent sign. An empty format gives the
-    /// name, or the device id of a record without one.
-    QString toString(const QString &format, const QLocale &locale) const override;
-
     /// Keeps `prototype` (and owns it) as what fromJson() clones for its id(); a later one of the
     /// same kind takes its place. Prototypes are never deleted: their library may be gone by then.
     static void registerConfig(Interfaces::IVDeviceConfig *prototype);
@@ -120,15 +111,27 @@ protected:
     /// What setId() stored; the null id before.
     QUuid storedId() const;
 
+public:
+    // Declared last, so that the operations above stand in one row in the table of virtuals.
+
+    /// The envelope with the class's own fields under "config".
+    QJsonObject toJsonObject() const override;
+    /// SHA-256 over the compact JSON without "dateTime" and "metadata", its own and its children's.
+    QByteArray hash() const override;
+    /// The text of `format`, in which %n stands for the name, %d the description, %v the version,
+    /// %i the device id, %c the content id and %% for a percent sign. An empty format gives the
+    /// name, or the device id of a record without one.
+    QString toString(const QString &format, const QLocale &locale) const override;
+
 private:
     friend class VDeviceConfigChildren;
 
     VDeviceConfigPrivate &own();
     VDeviceConfigChildren &ownChildren() const;
 
-    QExplicitlySharedDataPointer<VDeviceConfigPrivate> d;
-    mutable QExplicitlySharedDataPointer<VDeviceConfigChildren> m_children;
-    QExplicitlySharedDataPointer<VDeviceConfigChildren> m_replaced;
+    QExplicitlySharedDataPointer<VDeviceConfigPrivate> d; ///< The fields, shared by copies.
+    mutable QExplicitlySharedDataPointer<VDeviceConfigChildren> m_children; ///< Null: none.
+    QExplicitlySharedDataPointer<VDeviceConfigChildren> m_replaced; ///< Kept for an assignment.
 };
 
 } // namespace Norvane::Hardware

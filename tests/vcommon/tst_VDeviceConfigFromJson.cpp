@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+// The registry, and records from bytes that may be anything.
+
+#include "support/Seed.h"
+#include "support/TestConfig.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QThreadPool>
+#include <QtTest/QTest>
+
+using namespace Support;
+using Config = TestConfig<>;
+
+namespace {
+
+std::unique_ptr<IVDeviceConfig> read(const QByteArray &json)
+{
+    return std::unique_ptr<IVDeviceConfig>(VDeviceConfig::fromJson(json));
+}
+
+Config family()
+{
+    Config config(u"top é 中"_s);
+    config.setPayload(u"payload \\ \" \n"_s);
+    Config *const child = newConfig(u"child"_s);
+    child->insert(newConfig(u"grandchild"_s), true);
+    config.insert(child, true);
+    return config;
+}
+
+QByteArray bytesOf(const IVDeviceConfig &config)
+{
+    return QJsonDocument(config.toJsonObject()).toJson(QJsonDocument::Compact);
+}
+
+QByteArray kindText(const QUuid &kind = Config::kind())
+{
+    return kind.toByteArray();
+}
+
+} // namespace
+
+class tst_VDeviceConfigFromJson : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void registry_keepsTheLastPrototypeOfAKind();
+    void registry_takesNull();
+    void registry_isUsedFromAnyThread();
+    void record_isRebuilt();
+    void record_ofAnUnknownKindIsNull();
+    void bytes_mayBeAnything_data();
+    void bytes_mayBeAnything();
+    void bytes_mayEndAnywhere();
+    void bytes_mayBeFlipped();
+    void nesting_mayBeDeep_data();
+    void nesting_mayBeDeep();
+    void strings_mayBeHuge();
+};
+
+void tst_VDeviceConfigFromJson::initTestCase()
+{
+    VDeviceConfig::registerConfig(std::make_unique<Config>().release());
+}
+
+void tst_VDeviceConfigFromJson::registry_keepsTheLastPrototypeOfAKind()
+{
+    using Replaced = TestConfig<10>;
+    QVERIFY(!VDeviceConfig::isRegistered(Replaced::kind()));
+    auto refusing = std::make_unique<Replaced>();
+    refusing->setRefuses(true); // Prototypes are cloned, with all that they hold.
+    VDeviceConfig::registerConfig(refusing.release());
+    QVERIFY(VDeviceConfig::isRegistered(Replaced::kind()));
+    QVERIFY(read(bytesOf(Replaced())) == nullptr);
+    VDeviceConfig::registerConfig(std::make_unique<Replaced>().release());
+    QVERIFY(read(bytesOf(Replaced())) != nullptr);
+    QVERIFY(Replaced::liveCount() == 2); // The replaced one is not deleted.
+}
+
+void tst_VDeviceConfigFromJson::registry_takesNull()
+{
+    VDeviceConfig::registerConfig(nullptr);
+    QVERIFY(!VDeviceConfig::isRegistered(QUuid()));
+}
+
+void tst_VDeviceConfigFromJson::registry_isUsedFromAnyThread()
+{
+    const QByteArray json = bytesOf(family());
+    QAtomicInt good;
+    QThreadPool pool;
+    pool.setMaxThreadCount(4);
+    for (int i = 0; i < 16; ++i) {
+        pool.start([&json, &good, i] {
+            if (i % 4 == 0)
+                VDeviceConfig::registerConfig(std::make_unique<Config>().release());
+            const auto config = read(json);
+            good.fetchAndAddRelaxed(config && bytesOf(*config) == json ? 1 : 0);
+        });
+    }
+    QVERIFY(pool.waitForDone());
+    QCOMPARE(good.loadRelaxed(), 16);
+}
+
+void tst_VDeviceConfigFromJson::record_isRebuilt()
+{
+    const Config config = family();
+    const auto rebuilt = read(bytesOf(config));
+    QVERIFY(rebuilt != nullptr);
+    QVERIFY(rebuilt->equalsTo(&config));
+    QVERIFY(read("\xEF\xBB\xBF" + bytesOf(config)) != nullptr); // A byte order mark is no harm.
+    QVERIFY(read(" \n" + bytesOf(config) + "\n ") != nullptr);
+}
+
+void tst_VDeviceConfigFromJson::record_ofAnUnknownKindIsNull()
+{
+    QVERIFY(read(bytesOf(TestConfig<11>())) == nullptr);
+}
+
+void tst_VDeviceConfigFromJson::bytes_mayBeAnything_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<bool>("isRecord");
+    const QByteArray start = "{\"id\":\"" + kindText() + "\"";
+    const auto row = [](const char *name, const QByteArray &json, bool isRecord) {
+        QTest::newRow(name) << json << isRecord;
+    };
+    row("nothing", "", false);
+    row("null", "null", false);
+    row("a text", "\"x\"", false);
+    row("an array of a record", '[' + start + "}]", false);
+    row("an empty object", "{}", false);
+    row("only zeros", QByteArray(100, '\0'), false);
+    row("an id of null", "{\"id\":null}", false);
+    row("the null id", "{\"id\":\"" + kindText(QUuid()) + "\"}", false);
+    row("only an id", start + '}', true);
+    row("text behind it", start + "} x", false);
+    row("two records", start + '}' + start + '}', false);
+    row("a comma too many", start + ",}", false);
+    row("invalid UTF-8 in a text", start + ",\"name\":\"\xC3\x28\"}", false);
+    row("an overlong form of a slash", start + ",\"name\":\"\xC0\xAF\"}", false);
+    row("a lone surrogate", start + ",\"name\":\"\\ud800\"}", true);
+    row("a NUL in a text", start + ",\"name\":\"a\\u0000b\"}", true);
+    row("a key twice", start + ",\"name\":\"a\",\"name\":5}", true);
+    row("the id twice, the first unknown", "{\"id\":\"x\"," + start.sliced(1) + '}', true);
+    row("the id twice, the last unknown", start + ",\"id\":\"x\"}", false);
+    row("wrong types everywhere",
+        start
+            + ",\"deviceId\":1,\"version\":[],\"name\":{},\"description\":true,\"dateTime\":-1,"
+              "\"config\":\"x\",\"children\":{\"a\":1},\"metadata\":7}",
+        true);
+    row("children of every type",
+        start + ",\"children\":[1,\"x\",null,true,[[]],{},{\"id\":5},{\"children\":[1]}]}", true);
+    row("numbers out of range", start + ",\"config\":{\"payload\":1e999},\"x\":-1e-999}", false);
+}
+
+void tst_VDeviceConfigFromJson::bytes_mayBeAnything()
+{
+    QFETCH(const QByteArray, json);
+    const auto config = read(json);
+    QTEST(config != nullptr, "isRecord");
+    if (config)
+        QVERIFY(read(bytesOf(*config)) != nullptr); // What comes out can be read again.
+}
+
+void tst_VDeviceConfigFromJson::bytes_mayEndAnywhere()
+{
+    const QByteArray json = bytesOf(family());
+    for (qsizetype size = 0; size < json.size(); ++size)
+        QVERIFY2(read(json.first(size)) == nullptr, qPrintable(u"at byte %1"_s.arg(size)));
+    QVERIFY(read(json) != nullptr);
+}
+
+void tst_VDeviceConfigFromJson::bytes_mayBeFlipped()
+{
+    const QByteArray json = bytesOf(family());
+    QRandomGenerator random(seed());
+    int records = 0;
+    for (int run = 0; run < 5000; ++run) {
+        QByteArray damaged = json;
+        for (int i = random.bounded(1, 4); i > 0; --i)
+            damaged[random.bounded(int(damaged.size()))] = char(random.bounded(256));
+        const auto config = read(damaged);
+        records += config ? 1 : 0;
+        if (config)
+            QVERIFY(read(bytesOf(*config)) != nullptr);
+    }
+    QVERIFY(records > 0 && records < 5000);
+}
+
+void tst_VDeviceConfigFromJson::nesting_mayBeDeep_data()
+{
+    QTest::addColumn<int>("levels");
+    QTest::addColumn<bool>("isRecord");
+    QTest::newRow("as deep as JSON may be") << 500 << true;
+    QTest::newRow("deeper") << 600 << false;
+    QTest::newRow("100 000 levels") << 100000 << false;
+}
+
+void tst_VDeviceConfigFromJson::nesting_mayBeDeep()
+{
+    QFETCH(const int, levels);
+    for (const QUuid &kind : {Config::kind(), TestConfig<11>::kind()}) {
+        const QByteArray open = "{\"id\":\"" + kindText(kind) + "\",\"children\":[";
+        const QByteArray json = "{\"id\":\"" + kindText() + "\",\"children\":["
+            + open.repeated(levels) + QByteArray("]}").repeated(levels) + "]}";
+        QThreadPool pool; // Where the stack may be smaller.
+        pool.start([&] {
+            const auto config = read(json);
+            QTEST(config != nullptr, "isRecord");
+            if (!config)
+                return;
+            const auto copy = read(bytesOf(*config));
+            QVERIFY(copy && copy->equalsTo(config.get()));
+            QCOMPARE(copy->hash(), config->hash());
+            const bool isKnown = kind == Config::kind();
+            QCOMPARE(config->count(QUuid(), true), isKnown ? levels : 1);
+        });
+        QVERIFY(pool.waitForDone());
+    }
+    QVERIFY(read(QByteArray("[").repeated(levels)) == nullptr);
+    QVERIFY(read(QByteArray("{\"a\":").repeated(levels)) == nullptr);
+}
+
+void tst_VDeviceConfigFromJson::strings_mayBeHuge()
+{
+    const QByteArray huge(8 << 20, 'x');
+    const QByteArray start = "{\"id\":\"" + kindText() + "\",\"";
+    const auto config = read(start + "name\":\"" + huge + "\"}");
+    QVERIFY(config != nullptr);
+    QCOMPARE(config->name().size(), huge.size());
+    QVERIFY(read(start + huge + "\":1}") != nullptr);
+    QVERIFY(read("{\"id\":\"" + huge + "\"}") == nullptr);
+    QVERIFY(read(start + "version\":\"" + huge + "\",\"dateTime\":\"" + huge + "\",\"deviceId\":\""
+                 + huge + "\"}")
+            != nullptr);
+    QVERIFY(read(start + "children\":[" + QByteArray("{},").repeated(100000) + "{}]}") != nullptr);
+}
+
+QTEST_GUILESS_MAIN(tst_VDeviceConfigFromJson)
+#include "tst_VDeviceConfigFromJson.moc"
