@@ -43,8 +43,7 @@ void findRepeats(QList<CheckedFile> &files)
             const Finding finding{
                 .reason = u"this record has the content id of %1 and would replace it"_s.arg(
                     places.value(id)),
-                .hint =
-                    u"device id, faces mode, printer class and maximum faces make the content id"_s};
+                .hint = u"it is made of device id, faces mode, printer class and maximum faces"_s};
             repeats.append({accepted.record, finding});
         }
         file.findings += file.source.located(repeats);

@@ -6,7 +6,6 @@
 #include <QtCore/QUtf8StringView>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -270,8 +269,9 @@ bool JsonScanner::scanNumber()
         if (!scanDigits())
             return fail(reason);
     }
-    const double value = m_text.sliced(begin, m_at - begin).toByteArray().toDouble();
-    return std::isfinite(value) || fail(u"this number is too large"_s);
+    bool ok = false;
+    m_text.sliced(begin, m_at - begin).toByteArray().toDouble(&ok);
+    return ok || fail(u"this number is too large or too small"_s);
 }
 
 bool JsonScanner::scanDigits()

@@ -177,9 +177,11 @@ void Checker::checkMetadata(const QJsonArray &entries, const QString &pointer)
         keys.insert(key);
         const auto flags =
             MetadataFlags_T::instance().valueOf(entries.at(i)["flags"_L1].toString());
-        if ((flags & MetadataFlags::KillOnSave) != MetadataFlags::None) {
+        // A database holds copies of records, and writes those.
+        const auto lost = MetadataFlags::KillOnCopy | MetadataFlags::KillOnSave;
+        if ((flags & lost) != MetadataFlags::None) {
             add(Severity::Warning, pointer + step(i) + u"/flags"_s,
-                {u"an entry that is flagged KillOnSave is not kept"_s});
+                {u"an entry that is flagged KillOnCopy or KillOnSave is not kept"_s});
         }
     }
 }

@@ -27,7 +27,7 @@ struct StoreSettings
     QString key; ///< Empty without one.
     std::chrono::milliseconds wait{0};
 
-    /// As the tool's options say; throws a Failure when they make no sense or the key cannot be read.
+    /// As the options say; throws a Failure when they make no sense or the key cannot be read.
     static StoreSettings from(const Invocation &invocation);
 };
 
