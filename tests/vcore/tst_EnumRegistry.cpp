@@ -143,6 +143,7 @@ void tst_EnumRegistry::registration_buildsNoRuntimeObject()
 {
     struct Loader final : IVEnumRuntimeLoader
     {
+        ~Loader() override { VEnumRuntimeLoader::remove(this); }
         QString name() const override { return u"Shelf"_s; }
         void applyTo(IVEnum *) override { ++calls; }
         int calls = 0;
@@ -153,7 +154,6 @@ void tst_EnumRegistry::registration_buildsNoRuntimeObject()
     QCOMPARE(loader.calls, 0);
     QVERIFY(VEnumRegistry::find(u"Shelf"_s) != nullptr);
     QCOMPARE(loader.calls, 1);
-    VEnumRuntimeLoader::remove(&loader);
 }
 
 void tst_EnumRegistry::registration_leavesOutWhatIsNoMetaType()
