@@ -9,8 +9,7 @@ VMetadata::VMetadata(quint64 key, const QJsonValue &value, MetadataFlags flags)
     : m_key(key)
     , m_value(value)
     , m_flags(flags)
-{
-}
+{ }
 
 Interfaces::ICloneable *VMetadata::clone() const
 {
