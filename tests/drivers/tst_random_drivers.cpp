@@ -72,15 +72,16 @@ void tst_random_drivers::records_comeBackEqual()
     }
 }
 
+// Squares of different sizes: of several images of one area an icon shows but one.
 void tst_random_drivers::icons_comeBackEqual()
 {
     RandomDrivers random(seed());
     for (int run = 0; run < 100; ++run) {
         QJsonArray icon;
-        for (int i = random.number(4); i > 0; --i)
-            icon.append(iconElement(encoded(
-                testImage(1 + random.number(40), 1 + random.number(40),
-                          random.flag() ? QImage::Format_ARGB32 : QImage::Format_RGB32, run))));
+        for (int size = 1 + random.number(9); size < 30; size += 1 + random.number(30)) {
+            const auto format = random.flag() ? QImage::Format_ARGB32 : QImage::Format_RGB32;
+            icon.append(iconElement(encoded(testImage(size, size, format, run))));
+        }
         VPrinterDriver driver = random.printer();
         QJsonObject inner = innerOf(driver);
         inner.insert("icon"_L1, icon);
