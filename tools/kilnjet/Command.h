@@ -16,10 +16,17 @@ struct Invocation;
 /// One option, of the tool or of a command.
 struct Option
 {
+    enum class Times
+    {
+        Once,
+        Many
+    };
+
     QLatin1StringView name; ///< With its dashes: "--output".
     QLatin1StringView letter; ///< The short form: "-o"; may be empty.
     QLatin1StringView value; ///< What its value is called in help: "FILE"; empty without a value.
     QLatin1StringView summary;
+    Times times = Times::Once; ///< How often it may be given with a value.
 };
 
 /// What stands on the command line behind the command's name.

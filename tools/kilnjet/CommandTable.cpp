@@ -63,6 +63,42 @@ Command listCommand()
     };
 }
 
+Command queryCommand()
+{
+    return {
+        .name = "query"_L1,
+        .summary = "List the machines that meet conditions"_L1,
+        .description =
+            "Lists, as list does, the machines that meet every condition given.\n"
+            "Names of values are taken in any case; 'kilnjet enums' lists them. The channels may "
+            "be "
+            "spread over the print units of a machine. --elaboration, --levels and --resolution "
+            "must hold for one elaboration together. A resolution is \"400x360DPI\", or \"400\" "
+            "for "
+            "both directions; the unit is DPI, PPM or PPMM, DPI when left out, and units are not "
+            "converted. Every word of --text must occur in the names and descriptions of the "
+            "machine and its children, in any case."_L1,
+        .operands = {},
+        .options = {{"--class"_L1, ""_L1, "NAME"_L1, "is of this printer class"_L1},
+                    {"--channel"_L1, ""_L1, "NAME"_L1,
+                     "has this channel; may be given several times"_L1, Option::Times::Many},
+                    {"--elaboration"_L1, ""_L1, "TYPE"_L1, "has an elaboration of this type"_L1},
+                    {"--levels"_L1, ""_L1, "NAME"_L1, "... with this level management"_L1},
+                    {"--resolution"_L1, ""_L1, "RESOLUTION"_L1, "... at this resolution"_L1},
+                    {"--online-elaboration"_L1, ""_L1, "yes|no"_L1, "elaborates online"_L1},
+                    {"--online-linearization"_L1, ""_L1, "yes|no"_L1, "linearises online"_L1},
+                    {"--experimental"_L1, ""_L1, "yes|no"_L1, "is experimental"_L1},
+                    {"--text"_L1, ""_L1, "WORDS"_L1, "is described with these words"_L1}},
+        .exitCodes = {{ExitCode::Done, "machines were found"_L1},
+                      {ExitCode::Finding, "no machine meets the conditions"_L1}},
+        .examples = {{"query --channel Cyan --channel Sinker"_L1,
+                      "the machines that lay cyan and a sinking material"_L1},
+                     {"query --class Inkjet --levels Binary --resolution 400x800 --json"_L1,
+                      "the inkjets with a binary elaboration at 400 x 800 DPI, as JSON"_L1}},
+        .run = runQuery,
+    };
+}
+
 Command showCommand()
 {
     return {
@@ -217,8 +253,9 @@ Command helpCommand()
 const QList<Command> &commandTable()
 {
     static const QList<Command> table{
-        importCommand(), listCommand(),  showCommand(),     exportCommand(), removeCommand(),
-        renameCommand(), enumsCommand(), validateCommand(), verifyCommand(), helpCommand(),
+        importCommand(),   listCommand(),   queryCommand(),  showCommand(),
+        exportCommand(),   removeCommand(), renameCommand(), enumsCommand(),
+        validateCommand(), verifyCommand(), helpCommand(),
     };
     return table;
 }

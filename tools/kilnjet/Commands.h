@@ -16,6 +16,7 @@ ExitCode runExport(const Invocation &invocation, Console &console);
 ExitCode runHelp(const Invocation &invocation, Console &console);
 ExitCode runImport(const Invocation &invocation, Console &console);
 ExitCode runList(const Invocation &invocation, Console &console);
+ExitCode runQuery(const Invocation &invocation, Console &console);
 ExitCode runRemove(const Invocation &invocation, Console &console);
 ExitCode runRename(const Invocation &invocation, Console &console);
 ExitCode runShow(const Invocation &invocation, Console &console);

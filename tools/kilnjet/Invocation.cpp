@@ -70,16 +70,18 @@ void Parser::readOption(const QString &argument)
     const qsizetype equals = argument.indexOf(u'=');
     const Option &option = findOption(argument.left(equals));
     const QString name = option.name;
-    if (m_invocation.options.contains(name) && !option.value.isEmpty())
+    const bool isSingle = !option.value.isEmpty() && option.times == Option::Times::Once;
+    if (isSingle && m_invocation.options.contains(name))
         fail(name, u"the option is given twice"_s);
+    QStringList &values = m_invocation.options[name];
     if (option.value.isEmpty()) {
         if (equals >= 0)
             fail(name, u"the option takes no value"_s);
-        m_invocation.options.insert(name, QString());
+        values.append(QString());
     } else if (equals >= 0) {
-        m_invocation.options.insert(name, argument.sliced(equals + 1));
+        values.append(argument.sliced(equals + 1));
     } else if (m_next < m_arguments.size()) {
-        m_invocation.options.insert(name, m_arguments.at(m_next++));
+        values.append(m_arguments.at(m_next++));
     } else {
         fail(name, u"the option needs a value: %1 %2"_s.arg(name, option.value));
     }

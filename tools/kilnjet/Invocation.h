@@ -15,14 +15,16 @@ namespace Norvane::Kilnjet::Tool {
 struct Invocation
 {
     const Command *command = nullptr; ///< Null when only help or the version is asked for.
-    QHash<QString, QString> options; ///< The options given, by their long names, with their values.
+    /// The options given, by their long names, with their values in the order given.
+    QHash<QString, QStringList> options;
     QStringList operands;
 
     bool has(QLatin1StringView option) const { return options.contains(option); }
     QString value(QLatin1StringView option, const QString &fallback = QString()) const
     {
-        return options.value(option, fallback);
+        return options.value(option, {fallback}).last();
     }
+    QStringList values(QLatin1StringView option) const { return options.value(option); }
 };
 
 /// Reads the arguments (without the program's name) by the command table; throws a Failure with

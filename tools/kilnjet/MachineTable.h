@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <kilnjet/VPrinterDriver.h>
+
+#include <QtCore/QList>
+
+namespace Norvane::Kilnjet::Tool {
+
+class Console;
+
+/// Writes one line a machine under headings, or an array with a summary of each.
+void writeMachines(const QList<VPrinterDriver> &machines, Console &console);
+
+} // namespace Norvane::Kilnjet::Tool
