@@ -3,14 +3,15 @@
 
 #include "DbJobs.h"
 
-#include <QtConcurrent/QtConcurrentRun>
+#include "HappensBefore.h"
+
+#include <QtCore/QRunnable>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QThreadPool>
 
 #include <algorithm>
 #include <chrono>
 #include <limits>
-#include <tuple>
 
 namespace Norvane::Kilnjet {
 
@@ -29,16 +30,15 @@ bool poolIsSaturated()
 
 } // namespace
 
-/// What the pool owns of a runner. When it goes without having come to its end
-/// (QThreadPool::clear()), the jobs must hear of it.
-class DbJobs::RunnerHandle
+/// What the pool owns. When it goes without having come to its end (QThreadPool::clear()), the jobs
+/// must hear of it.
+class DbJobs::RunnerTask final : public QRunnable
 {
 public:
-    explicit RunnerHandle(std::shared_ptr<DbJobs> jobs)
+    explicit RunnerTask(std::shared_ptr<DbJobs> jobs)
         : m_jobs(std::move(jobs))
     { }
-    Q_DISABLE_COPY_MOVE(RunnerHandle)
-    ~RunnerHandle()
+    ~RunnerTask() override
     {
         if (m_ended)
             return;
@@ -47,10 +47,15 @@ public:
         m_jobs->m_progress.notify_all();
     }
 
-    void run()
+    void run() override
     {
-        m_jobs->run();
-        m_ended = true;
+        noteAcquired(this);
+        try {
+            m_jobs->run();
+            m_ended = true;
+        } catch (...) {
+            // Out of memory. The job is over, its waiters know; there is nobody to pass it on to.
+        }
     }
 
 private:
@@ -185,10 +190,9 @@ void DbJobs::startRunner()
             return;
         m_runner = Runner::Queued;
     }
-    auto handle = std::make_shared<RunnerHandle>(shared_from_this());
-    // Nobody needs the future: m_running and m_pending say what is done.
-    std::ignore = QtConcurrent::run(QThreadPool::globalInstance(),
-                                    [handle = std::move(handle)] { handle->run(); });
+    auto task = std::make_unique<RunnerTask>(shared_from_this());
+    noteReleased(task.get());
+    QThreadPool::globalInstance()->start(task.release());
 }
 
 void DbJobs::run()

@@ -70,7 +70,7 @@ private:
         Queued,
         Running
     };
-    class RunnerHandle;
+    class RunnerTask;
 
     void waitFor(Ticket last);
     bool isDone(Ticket last) const;

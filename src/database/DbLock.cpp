@@ -3,38 +3,9 @@
 
 #include "DbLock.h"
 
-// A distribution's Qt is not instrumented: ThreadSanitizer sees no order between two holders of a
-// QRecursiveMutex unless it is told.
-#if defined(__SANITIZE_THREAD__)
-#define KILNJET_TSAN
-#elif defined(__has_feature)
-#if __has_feature(thread_sanitizer)
-#define KILNJET_TSAN
-#endif
-#endif
-#if defined(KILNJET_TSAN)
-#include <sanitizer/tsan_interface.h>
-#endif
+#include "HappensBefore.h"
 
 namespace Norvane::Kilnjet {
-
-namespace {
-
-void noteAcquired([[maybe_unused]] DbLock *lock)
-{
-#if defined(KILNJET_TSAN)
-    __tsan_acquire(lock);
-#endif
-}
-
-void noteReleased([[maybe_unused]] DbLock *lock)
-{
-#if defined(KILNJET_TSAN)
-    __tsan_release(lock);
-#endif
-}
-
-} // namespace
 
 DbLock::DbLock()
     : m_mutex(new QRecursiveMutex)

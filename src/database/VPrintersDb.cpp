@@ -5,6 +5,18 @@
 
 #include "VPrintersDb_p.h"
 
+#include "enums/ChannelV100Sort_T.h"
+#include "enums/Channel_T.h"
+#include "enums/ElaborationType_T.h"
+#include "enums/LevelManagement_T.h"
+#include "enums/PrinterClass_T.h"
+#include "enums/PrinterFacesMode_T.h"
+#include "enums/PrinterFileCompression_T.h"
+#include "enums/PrinterFileProtection_T.h"
+
+#include <vcore/MetadataFlags.h>
+#include <vimaging/ResolutionUnit.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QTimer>
 
@@ -19,6 +31,23 @@ namespace {
 // How long after the last change it is written.
 constexpr std::chrono::milliseconds kCommitDelay(5000);
 
+/// Builds what writing a record needs. Static objects are destroyed in the reverse order of their
+/// making: a database that is a static object of its host commits on its way out, and these must
+/// still be there.
+void buildEnumerations()
+{
+    ChannelV100Sort_T::instance();
+    Channel_T::instance();
+    ElaborationType_T::instance();
+    LevelManagement_T::instance();
+    PrinterClass_T::instance();
+    PrinterFacesMode_T::instance();
+    PrinterFileCompression_T::instance();
+    PrinterFileProtection_T::instance();
+    Imaging::ResolutionUnit_T::instance();
+    MetadataFlags_T::instance();
+}
+
 } // namespace
 
 VPrintersDb::VPrintersDb(const QString &fileName, const QString &key, QObject *parent)
@@ -31,6 +60,7 @@ VPrintersDb::VPrintersDb(QIODevice *device, const QString &key, QObject *parent)
     : QObject(parent)
     , d(std::make_unique<VPrintersDbPrivate>())
 {
+    buildEnumerations();
     d->key = key;
     d->device = device;
     d->jobs = std::make_shared<DbJobs>([this](DbJobs::Job job) {

@@ -23,10 +23,13 @@ using Database::VDBText;
 
 bool openOrCreate(VDBText &store, QIODevice *device)
 {
-    return store.open(device)
+    if (store.open(device)
         || store.create(device, DriverRecord::idField(),
                         VDBText::WithCulture | VDBText::WithSignature,
-                        VLocale(u"en-US"_s, QLocale::OmitGroupSeparator), u"2"_s);
+                        VLocale(u"en-US"_s, QLocale::OmitGroupSeparator), u"2"_s))
+        return true;
+    // Another process may have created the file in between.
+    return store.status() == Database::VDBStatus::NotEmpty && store.open(device);
 }
 
 QMap<QUuid, VPrinterDriver> readDrivers(VDBText &store)

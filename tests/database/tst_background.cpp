@@ -10,6 +10,7 @@
 
 #include <QtCore/QTimer>
 
+#include <atomic>
 #include <memory>
 
 using namespace Support;
@@ -214,11 +215,13 @@ void tst_background::waiting_inTheOnlyPoolThreadDoesTheWork()
     const int threads = pool->maxThreadCount();
     pool->waitForDone();
     pool->setMaxThreadCount(1);
-    bool wasReady = false;
+    // Also what tells ThreadSanitizer, which does not know the pool, of the order of things.
+    std::atomic<VPrintersDb *> database = m_database.get();
+    std::atomic<bool> wasReady = false;
     pool->start([&] {
-        m_database->init(true);
-        m_database->waitForFinished();
-        wasReady = m_database->isReady();
+        database.load()->init(true);
+        database.load()->waitForFinished();
+        wasReady = database.load()->isReady();
     });
     pool->waitForDone();
     pool->setMaxThreadCount(threads);

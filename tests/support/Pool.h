@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include <QtCore/QSemaphore>
 #include <QtCore/QThreadPool>
 
+#include <semaphore>
+#include <thread>
 #include <utility>
 
 namespace Support {
@@ -19,9 +20,10 @@ inline void makePoolCold()
 /// The global pool with an idle thread.
 inline void makePoolWarm()
 {
-    QSemaphore done;
-    QThreadPool::globalInstance()->start([&done] { done.release(); });
-    done.acquire();
+    QThreadPool *pool = QThreadPool::globalInstance();
+    pool->start([] {});
+    while (pool->activeThreadCount() > 0)
+        std::this_thread::yield();
 }
 
 /// Occupies every thread of the global pool, reduced to one, until it is destroyed.
@@ -35,6 +37,7 @@ public:
         m_pool->start([this] {
             m_started.release();
             m_end.acquire();
+            m_ended.release();
         });
         m_started.acquire();
     }
@@ -42,6 +45,7 @@ public:
     ~SaturatedPool()
     {
         release();
+        m_ended.acquire();
         m_pool->waitForDone();
         m_pool->setMaxThreadCount(m_threads);
     }
@@ -56,8 +60,9 @@ public:
 private:
     QThreadPool *const m_pool = QThreadPool::globalInstance();
     const int m_threads = m_pool->maxThreadCount();
-    QSemaphore m_started;
-    QSemaphore m_end;
+    std::binary_semaphore m_started{0};
+    std::binary_semaphore m_end{0};
+    std::binary_semaphore m_ended{0};
     bool m_isReleased = false;
 };
 
