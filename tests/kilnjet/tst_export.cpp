@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
-// export: whole records, which import takes back unchanged, and files that are complete or untouched.
+// export: whole records, which import takes back unchanged; files are complete or untouched.
 
 #include "support/Drivers.h"
 #include "support/Printers.h"

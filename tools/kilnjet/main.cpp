@@ -17,7 +17,7 @@ void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 int main(int argc, char *argv[])
 {
     qInstallMessageHandler(ignoreMessage);
-    // Images without a resolution of their own get the one that they have in a program with a screen.
+    // Images without a resolution get the one that they have in a program with a screen.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"kilnjet"_s);
