@@ -39,6 +39,15 @@ Failure creationFailure(const QString &path)
 
 } // namespace
 
+QList<VPrinterDriver> byName(QList<VPrinterDriver> machines)
+{
+    std::stable_sort(machines.begin(), machines.end(),
+                     [](const VPrinterDriver &a, const VPrinterDriver &b) {
+                         return a.name().compare(b.name(), Qt::CaseInsensitive) < 0;
+                     });
+    return machines;
+}
+
 Catalogue::Catalogue(const StoreSettings &settings, Mode mode, Console &console)
     : m_settings(settings)
     , m_mode(mode)
@@ -86,12 +95,7 @@ void Catalogue::load(const StoreSurvey &survey, Console &console)
 
 QList<VPrinterDriver> Catalogue::machines()
 {
-    QList<VPrinterDriver> machines = m_database->values();
-    std::stable_sort(machines.begin(), machines.end(),
-                     [](const VPrinterDriver &a, const VPrinterDriver &b) {
-                         return a.name().compare(b.name(), Qt::CaseInsensitive) < 0;
-                     });
-    return machines;
+    return byName(m_database->values());
 }
 
 void Catalogue::commit()

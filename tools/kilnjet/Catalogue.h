@@ -15,6 +15,9 @@ namespace Norvane::Kilnjet::Tool {
 
 class Console;
 
+/// The machines, ordered by name without regard to case; those of one name stay in order.
+QList<VPrinterDriver> byName(QList<VPrinterDriver> machines);
+
 /// The printers database that a command works on.
 ///
 /// It is surveyed before it is opened, so that the cause of a failure can be named. Opened to read

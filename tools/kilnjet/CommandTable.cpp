@@ -117,6 +117,46 @@ Command showCommand()
     };
 }
 
+Command diffCommand()
+{
+    return {
+        .name = "diff"_L1,
+        .summary = "Compare two catalogues or two machines field by field"_L1,
+        .description =
+            "A and B are files if files of these names are there (or \"-\", the standard input): "
+            "each "
+            "a database or records in JSON, which its first bytes show. Otherwise, with --db, they "
+            "are two machines of that database, named as for show.\n"
+            "The machines of two files are matched by content id. Children are matched by kind and "
+            "device id, those left over by kind and position. A difference is named by its JSON "
+            "pointer in A, or in B for what is only there. Metadata is left out, and of icons it "
+            "is "
+            "only said that they differ.\n"
+            "With --json: the objects \"a\" and \"b\" and the array \"differences\" for two "
+            "machines; "
+            "for two files their names \"a\" and \"b\", the arrays \"onlyInA\", \"onlyInB\" and "
+            "\"different\" of machines with \"id\" and \"name\", the last with \"differences\", "
+            "and the "
+            "number \"equal\". A difference has \"pointer\", \"change\" (changed, onlyInA, "
+            "onlyInB, "
+            "icon, order) and the values \"a\" and \"b\" as far as there are any.\n"
+            "The key of --key-file is used for both files. Colours are for terminals only; set "
+            "NO_COLOR to do without."_L1,
+        .operands = {{"A"_L1, 1, 1, "a database, a file in JSON, or a machine"_L1},
+                     {"B"_L1, 1, 1, "what A is compared with"_L1}},
+        .options = {},
+        .exitCodes = {{ExitCode::Done, "they are equal"_L1},
+                      {ExitCode::Finding, "they differ, or a machine was not found"_L1},
+                      {ExitCode::Io,
+                       "a file is missing, cannot be read, or holds records that "
+                       "import would refuse"_L1}},
+        .examples = {{"diff Printers.tdb machines.json"_L1, "what an import would change"_L1},
+                     {"--db Printers.tdb diff \"Kiln line 4\" \"Kiln line 5\""_L1,
+                      "two machines of one database"_L1}},
+        .run = runDiff,
+    };
+}
+
 Command exportCommand()
 {
     return {
@@ -253,9 +293,9 @@ Command helpCommand()
 const QList<Command> &commandTable()
 {
     static const QList<Command> table{
-        importCommand(),   listCommand(),   queryCommand(),  showCommand(),
-        exportCommand(),   removeCommand(), renameCommand(), enumsCommand(),
-        validateCommand(), verifyCommand(), helpCommand(),
+        importCommand(), listCommand(),     queryCommand(),  showCommand(),
+        diffCommand(),   exportCommand(),   removeCommand(), renameCommand(),
+        enumsCommand(),  validateCommand(), verifyCommand(), helpCommand(),
     };
     return table;
 }

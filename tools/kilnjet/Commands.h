@@ -11,6 +11,7 @@ namespace Norvane::Kilnjet::Tool {
 class Console;
 struct Invocation;
 
+ExitCode runDiff(const Invocation &invocation, Console &console);
 ExitCode runEnums(const Invocation &invocation, Console &console);
 ExitCode runExport(const Invocation &invocation, Console &console);
 ExitCode runHelp(const Invocation &invocation, Console &console);

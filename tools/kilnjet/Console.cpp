@@ -15,6 +15,8 @@
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
+#else
+#include <unistd.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -35,6 +37,19 @@ void prepareStandardStreams()
     _setmode(_fileno(stderr), _O_BINARY);
 #else
     std::signal(SIGPIPE, SIG_IGN);
+#endif
+}
+
+/// True when standard output is a terminal that obeys escape sequences.
+bool isTerminal()
+{
+#ifdef Q_OS_WIN
+    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    return GetConsoleMode(output, &mode) != 0
+        && SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+#else
+    return ::isatty(STDOUT_FILENO) == 1 && qgetenv("TERM") != "dumb";
 #endif
 }
 
@@ -78,6 +93,12 @@ Console::Console(Format format)
     : m_format(format)
 {
     prepareStandardStreams();
+}
+
+Colour Console::colour() const
+{
+    const bool isWanted = !isJson() && qEnvironmentVariableIsEmpty("NO_COLOR") && isTerminal();
+    return isWanted ? Colour::On : Colour::Off;
 }
 
 void Console::write(const QString &text)

@@ -5,6 +5,7 @@
 
 #include "Failure.h"
 #include "Finding.h"
+#include "Paint.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonArray>
@@ -28,6 +29,8 @@ public:
     Q_DISABLE_COPY_MOVE(Console)
 
     bool isJson() const { return m_format == Format::Json; }
+    /// On when people read the data on a terminal, unless the environment variable NO_COLOR is set.
+    Colour colour() const;
 
     /// Writes data. The caller has made text that came from elsewhere printable().
     void write(const QString &text);
