@@ -105,7 +105,10 @@ Command showCommand()
         .name = "show"_L1,
         .summary = "Show one machine"_L1,
         .description =
-            "A sheet to read; with --json the content id and the whole record.\n"
+            "A sheet to read: the machine and its limits, its print units with their channels in "
+            "order, its elaborations by kind. On a terminal, inks have a swatch of about their "
+            "colour; set NO_COLOR to do without. With --json: the content id and the whole "
+            "record.\n"
             "A name is compared exactly first, then without regard to case. A content id may be "
             "written with or without braces, or shortened to at least four digits."_L1,
         .operands = {kMachine},

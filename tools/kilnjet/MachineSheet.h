@@ -3,14 +3,16 @@
 
 #pragma once
 
+#include "Paint.h"
+
 #include <kilnjet/VPrinterDriver.h>
 
 #include <QtCore/QString>
 
 namespace Norvane::Kilnjet::Tool {
 
-/// A machine as a sheet to read: its own fields, then its print units and elaborations. Safe for a
-/// terminal.
-QString machineSheet(const VPrinterDriver &machine);
+/// A machine as a sheet to read: its own fields and limits, its print units with their channels in
+/// order, its elaborations by kind. Safe for a terminal.
+QString machineSheet(const VPrinterDriver &machine, const Paint &paint);
 
 } // namespace Norvane::Kilnjet::Tool

@@ -20,7 +20,7 @@ ExitCode runShow(const Invocation &invocation, Console &console)
         console.write(QJsonObject{{u"id"_s, machine.dataId().toString()},
                                   {u"driver"_s, machine.toJsonObject()}});
     } else {
-        console.write(machineSheet(machine));
+        console.write(machineSheet(machine, Paint(console.colour())));
     }
     return ExitCode::Done;
 }
