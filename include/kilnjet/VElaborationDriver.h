@@ -17,16 +17,18 @@ namespace Norvane::Kilnjet {
 
 /// One elaboration (screening, halftoning) that can be applied to an image before it is printed.
 ///
-/// | JSON key                 | Accessor                  | JSON type         | Fallback |
-/// |--------------------------|---------------------------|-------------------|----------|
-/// | "elaborationType"        | elaborationType()         | string            | `None`   |
-/// | "levelManagementList"    | levelManagementList()     | array of strings  | empty; a bad
-/// element is `None` | | "resolutionList"         | resolutionList()          | array of objects  |
-/// empty; a bad element is all 0 | | "scrollRatioList"        | scrollRatioList()         | array
-/// of numbers  | empty; a bad element is 0.0 | | "magnificationMin"       | magnification().first
-/// | number            | 0.0      | | "magnificationMax"       | magnification().second    | number
-/// | 0.0      | | "allowOnlineElaboration" | allowOnlineElaboration()  | boolean           | false
-/// | | "prefered"               | isPrefered()              | boolean           | false    |
+/// | JSON key                 | Accessor                  | JSON type        | Fallback |
+/// |--------------------------|---------------------------|------------------|----------|
+/// | "elaborationType"        | elaborationType()         | string           | `None`   |
+/// | "levelManagementList"    | levelManagementList()     | array of strings | empty    |
+/// | "resolutionList"         | resolutionList()          | array of objects | empty    |
+/// | "scrollRatioList"        | scrollRatioList()         | array of numbers | empty    |
+/// | "magnificationMin"       | magnification().first     | number           | 0.0      |
+/// | "magnificationMax"       | magnification().second    | number           | 0.0      |
+/// | "allowOnlineElaboration" | allowOnlineElaboration()  | boolean          | false    |
+/// | "prefered"               | isPrefered()              | boolean          | false    |
+///
+/// A bad element of a list reads as `None`, as a resolution of zeros, or as 0.0.
 ///
 /// The spelling of "prefered" belongs to the stored format. The content id is the device id. A
 /// record is valid with a device id, a type other than `None`, a level management and a resolution;

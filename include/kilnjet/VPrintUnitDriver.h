@@ -16,10 +16,11 @@ namespace Norvane::Kilnjet {
 ///
 /// | JSON key                     | Accessor                     | JSON type        | Fallback |
 /// |------------------------------|------------------------------|------------------|----------|
-/// | "channels"                   | channels()                   | array of strings | empty; a bad
-/// element is `None` | | "customHorizontalResolution" | customHorizontalResolution() | boolean |
-/// false    | | "customVerticalResolution"   | customVerticalResolution()   | boolean          |
-/// false    |
+/// | "channels"                   | channels()                   | array of strings | empty    |
+/// | "customHorizontalResolution" | customHorizontalResolution() | boolean          | false    |
+/// | "customVerticalResolution"   | customVerticalResolution()   | boolean          | false    |
+///
+/// An element of "channels" that is no channel's name reads as `None`.
 ///
 /// The content id is the version 5 UUID, in the namespace of the device id, of the channels' names
 /// joined by ";": sorted as plain text from version 1.1.0 on; before, in the order in which format

@@ -23,20 +23,23 @@ class VPrinterDriverPrivate;
 /// One printing machine: its family, how files are sent to it, its limits and its icon. Its print
 /// units and elaborations are its children.
 ///
-/// | JSON key              | Accessor               | JSON type        | Fallback              |
-/// |-----------------------|------------------------|------------------|-----------------------|
-/// | "fileProtection"      | fileProtection()       | string           | `None`                |
-/// | "fileCompression"     | fileCompression()      | string           | `None`                |
-/// | "printerClass"        | printerClass()         | string           | `Inkjet`, the value 0 |
-/// | "facesMode"           | facesMode()            | string           | `None`                |
-/// | "maximumImageBytes"   | maximumImageBytes()    | string of digits | 9223372036854775807; text
-/// that is no number: 0 | | "maximumFaces"        | maximumFaces()         | number           | 0 |
-/// | "experimental"        | experimental()         | boolean          | false                 |
-/// | "onlineElaboration"   | onlineElaboration()    | boolean          | false                 |
-/// | "onlineLinearization" | onlineLinearizations() | boolean          | false                 |
-/// | "icon"                | icon()                 | array of {"format": "png", "data": Base64} |
-/// empty icon | | "svgIcon"             | icon()                 | string, Base64 of the compressed
-/// SVG | empty   |
+/// | JSON key              | Accessor               | JSON type | Fallback              |
+/// |-----------------------|------------------------|-----------|-----------------------|
+/// | "fileProtection"      | fileProtection()       | string    | `None`                |
+/// | "fileCompression"     | fileCompression()      | string    | `None`                |
+/// | "printerClass"        | printerClass()         | string    | `Inkjet`, the value 0 |
+/// | "facesMode"           | facesMode()            | string    | `None`                |
+/// | "maximumImageBytes"   | maximumImageBytes()    | string    | 9223372036854775807   |
+/// | "maximumFaces"        | maximumFaces()         | number    | 0                     |
+/// | "experimental"        | experimental()         | boolean   | false                 |
+/// | "onlineElaboration"   | onlineElaboration()    | boolean   | false                 |
+/// | "onlineLinearization" | onlineLinearizations() | boolean   | false                 |
+/// | "icon"                | icon()                 | array     | an empty icon         |
+/// | "svgIcon"             | icon()                 | string    | no SVG document       |
+///
+/// "maximumImageBytes" is a string of digits; one that is no number reads as 0. "icon" holds an
+/// object {"format": "png", "data": Base64} for each image, "svgIcon" the compressed document in
+/// Base64.
 ///
 /// The fallback of "printerClass" differs from a new driver's `Unknown`, and "onlineLinearization"
 /// has no final s: stored records rely on both. A driver has either images or an SVG document;

@@ -26,11 +26,11 @@ class VPrintersDbPrivate;
 ///
 /// Threads: edits and queries from any thread, serialised by one recursive lock; construct, init()
 /// and destroy in the owner's thread. After init(true) the load and the commits run on the global
-/// thread pool, one at a time and in order; signals come from the thread that does the work. An edit
-/// waits for a load that was asked for before it; a query gives what is there. Every operation may
-/// be called from a slot, direct or queued: none waits for the thread that calls it.
-/// Failures: bool results, isNull() and error(). Nothing throws, nothing is logged. A commit that
-/// fails keeps what it could not write for the next one.
+/// thread pool, one at a time and in order; signals come from the thread that does the work. An
+/// edit waits for a load that was asked for before it; a query gives what is there. Every operation
+/// may be called from a slot, direct or queued: none waits for the thread that calls it. Failures:
+/// bool results, isNull() and error(). Nothing throws, nothing is logged. A commit that fails keeps
+/// what it could not write for the next one.
 class VKILNJET_EXPORT VPrintersDb : public QObject
 {
     Q_OBJECT
@@ -51,8 +51,8 @@ public:
     /// Loads the file, or creates it when it is missing or empty. With `background` this returns at
     /// once and later commits run in the background too; else all is done on return.
     void init(bool background);
-    /// True when no load or commit is outstanding and the last load did not fail. Takes no lock, like
-    /// isNull().
+    /// True when no load or commit is outstanding and the last load did not fail. Takes no lock,
+    /// like isNull().
     bool isReady() const;
     /// True when the last load failed.
     bool isNull() const;

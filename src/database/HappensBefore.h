@@ -3,9 +3,9 @@
 
 #pragma once
 
-// A distribution's Qt is not instrumented, so ThreadSanitizer sees no order between two threads that
-// meet in a QRecursiveMutex or in the queue of a QThreadPool, unless it is told. Elsewhere these
-// functions do nothing.
+// A distribution's Qt is not instrumented, so ThreadSanitizer sees no order between two threads
+// that meet in a QRecursiveMutex or in the queue of a QThreadPool, unless it is told. Elsewhere
+// these functions do nothing.
 
 #if defined(__SANITIZE_THREAD__)
 #define KILNJET_TSAN

@@ -70,7 +70,8 @@ void tst_faults::commit_thatFailsAtAnyCall_isRepeatedByTheNext_data()
     QTest::newRow("sync") << FaultyDevice::Sync;
 }
 
-// Fails the first call of a kind that a commit makes, then the second, until a commit makes no more.
+// Fails the first call of a kind that a commit makes, then the second, until a commit makes no
+// more.
 void tst_faults::commit_thatFailsAtAnyCall_isRepeatedByTheNext()
 {
     QFETCH(FaultyDevice::Call, call);

@@ -166,7 +166,8 @@ void tst_icon_without_gui::icon_isEmpty()
     QCOMPARE(innerOf(svg).value("svgIcon"_L1), QJsonValue(text));
 }
 
-// A drawing may hold text, which needs fonts, which need a GUI: it waits for a process that has one.
+// A drawing may hold text, which needs fonts, which need a GUI: it waits for a process that has
+// one.
 void tst_icon_without_gui::vectorImages_areKeptAsTheyCame()
 {
     for (const QString &hint : {u"svg"_s, u"SVG"_s, u"xyz"_s}) {

@@ -34,7 +34,8 @@ QByteArray code(const QByteArray &message, const QByteArray &key)
 
 } // namespace
 
-// The stored format is a promise: these files must open, and come out the same, in every later version.
+// The stored format is a promise: these files must open, and come out the same, in every later
+// version.
 class tst_VDBTextFormat : public QObject
 {
     Q_OBJECT

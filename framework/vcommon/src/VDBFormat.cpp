@@ -147,8 +147,8 @@ QString findField(QByteArrayView payload, const QString &key)
 }
 
 Signer::Signer(const QString &key)
-    // Lines are signed with a key derived from the given one, so that the check in the header and the
-    // codes of the lines never stand for each other.
+    // Lines are signed with a key derived from the given one, so that the check in the header and
+    // the codes of the lines never stand for each other.
     : m_key(key.isEmpty() ? QByteArray() : authenticationCode("vdbtext line key"_ba, key.toUtf8()))
 { }
 

@@ -46,7 +46,8 @@ QString unescaped(QByteArrayView bytes);
 /// Writes fields as "key=value" joined by tabs; a field with a null value is its key alone.
 QByteArray encodeFields(const QList<FormatField> &fields);
 QList<FormatField> decodeFields(QByteArrayView payload);
-/// The value of the first field `key`; a null text when it is missing or null. Decodes nothing else.
+/// The value of the first field `key`; a null text when it is missing or null. Decodes nothing
+/// else.
 QString findField(QByteArrayView payload, const QString &key);
 
 /// The checks of lines: a sum that anyone can verify, and a code that only a key's holder can make.

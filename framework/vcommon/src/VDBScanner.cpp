@@ -82,8 +82,8 @@ HeaderPlace readHeader(QByteArrayView bytes, Contents &contents)
 /// Walks the lines and applies the batches.
 ///
 /// The lines of a batch wait in m_pending for their commit line. A commit line that does not match
-/// them moves them to m_held: what follows tells a batch that was damaged later (a seal, or a further
-/// batch) from one that was never completed (a void mark, or the end of the file).
+/// them moves them to m_held: what follows tells a batch that was damaged later (a seal, or a
+/// further batch) from one that was never completed (a void mark, or the end of the file).
 class Scanner
 {
 public:
@@ -195,8 +195,8 @@ void Scanner::endLine(qsizetype contentEnd)
         report(Reason::BadLineEnd, m_position, 2, m_line);
         m_position += 2;
     } else {
-        // The next line may begin at once, if the line end was lost rather than altered. A void mark is
-        // not believed here: a stray byte must not void what stands before it.
+        // The next line may begin at once, if the line end was lost rather than altered. A void
+        // mark is not believed here: a stray byte must not void what stands before it.
         const bool lost = QByteArrayView("+-=.").contains(rest[0]);
         report(Reason::BadLineEnd, m_position, lost ? 0 : 1, m_line);
         m_position += lost ? 0 : 1;
@@ -212,8 +212,9 @@ bool Scanner::readMark(QByteArrayView line)
     if (!isSeal && line[0] != char(LineKind::Void))
         return false;
     const bool isWhole = line.size() == 1 || line.sliced(1) == QByteArrayView("\r");
-    // An altered line feed leaves another byte behind the mark; a lost one none. A stray byte before
-    // a line must not void what stands before it, so that much is not believed of a void mark.
+    // An altered line feed leaves another byte behind the mark; a lost one none. A stray byte
+    // before a line must not void what stands before it, so that much is not believed of a void
+    // mark.
     const bool lostItsEnd =
         line.size() > 2 && (splitLine(line.sliced(2)) || (isSeal && splitLine(line.sliced(1))));
     if (!isWhole && !lostItsEnd)
@@ -253,8 +254,8 @@ qsizetype Scanner::soundEnd(const Line &line, QByteArrayView bytes) const
 {
     const qsizetype payloadAt = line.payload.data() - bytes.data();
     const qsizetype lineFeed = bytes.endsWith('\r') ? bytes.size() - 1 : bytes.size();
-    // The stated length finds the end of a line whose line feed was altered; the line feed finds the
-    // end of a line whose length was altered.
+    // The stated length finds the end of a line whose line feed was altered; the line feed finds
+    // the end of a line whose length was altered.
     qsizetype tried = -1;
     for (const qsizetype end : {line.statedEnd, lineFeed, bytes.size()}) {
         if (end < payloadAt || end == tried)

@@ -154,8 +154,8 @@ bool VDBTextPrivate::writeBatch()
     }
     end += lines.size();
     const QByteArray seal = QByteArray(1, char(LineKind::Seal)) + '\n';
-    // Not synced: it tells a batch that was damaged later from one that was never completed, and may
-    // be missing.
+    // Not synced: it tells a batch that was damaged later from one that was never completed, and
+    // may be missing.
     const bool isSealed = access.write(end, seal);
     contents.tail = isSealed ? TailState::Clean : TailState::Unsealed;
     contents.endsInsideLine = false;

@@ -30,11 +30,11 @@ public:
                                       const QLocale &locale, const QString &format) = 0;
     /// Sets the key that signs the records, and what the next open() is for.
     virtual void setKey(const QString &key, const QString &extra) = 0;
-    /// Adds the record to the batch; it replaces the one with the same key. False when it has none or
-    /// the access is for reading only.
+    /// Adds the record to the batch; it replaces the one with the same key. False when it has none
+    /// or the access is for reading only.
     virtual bool insert(const VDBRecord &record) = 0;
-    /// Adds the removal of the record with the key `id` to the batch; false when there is none or the
-    /// access is for reading only.
+    /// Adds the removal of the record with the key `id` to the batch; false when there is none or
+    /// the access is for reading only.
     virtual bool remove(const QString &id) = 0;
     /// Drops what is no longer live from the file; false when that could not be done.
     [[nodiscard]] virtual bool purge() = 0;

@@ -18,7 +18,7 @@ enum class VDBStatus
     NoDevice, ///< There is no device to work on.
     NotFound, ///< The file does not exist.
     Io, ///< The system refused to open, read, write or sync; VDBText::errorString() says why.
-    Empty, ///< There is no content yet, or only what a crash left of a creation: create() may go on.
+    Empty, ///< Nothing yet, or only what a crash left of a creation: create() may go on.
     NotEmpty, ///< create() met a file that has content.
     NotADatabase, ///< The content is not of this format.
     DamagedHeader, ///< The file is of this format, but both copies of its header are damaged.

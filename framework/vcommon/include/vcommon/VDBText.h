@@ -15,8 +15,8 @@ class VDBTextPrivate;
 
 /// A durable store of records in an append-only text file; docs/file-format.md has every byte.
 ///
-/// A batch between open() and close() is all or nothing: after a crash at any byte the file opens as
-/// it was before the batch or after it. When close() returns and wasDurable() is true, the batch
+/// A batch between open() and close() is all or nothing: after a crash at any byte the file opens
+/// as it was before the batch or after it. When close() returns and wasDurable() is true, the batch
 /// survives a power cut. A batch of k records costs O(k) and one sync, and opening a file that
 /// nobody else has changed since does not read it again.
 ///
@@ -27,8 +27,8 @@ class VDBTextPrivate;
 /// key any file can be read, and a file without a key also written. setKey()'s second argument says
 /// what the next open() is for: empty but not null to read, null to write.
 ///
-/// The device is a closed QFile, which the store opens and closes, or any random-access device given
-/// open or closed; it is left as it was found and stays the caller's.
+/// The device is a closed QFile, which the store opens and closes, or any random-access device
+/// given open or closed; it is left as it was found and stays the caller's.
 ///
 /// Threads: one at a time.
 /// Failures: bool results, status() and errorString(). Nothing throws, nothing is logged. A file
