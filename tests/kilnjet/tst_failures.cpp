@@ -70,6 +70,7 @@ void tst_failures::aDatabaseThatCannotBeUsed_isExplained_data()
     QTest::newRow("damaged in both headers")
         << damaged << 4 << u"both copies of its header are damaged"_s;
     QTest::newRow("of a newer format") << newer << 4 << u"a newer program wrote it"_s;
+    QTest::newRow("without a key") << sound << 5 << u"it has no key"_s;
     QTest::newRow("of another key")
         << folder.read(u"k.tdb"_s) << 5 << u"it belongs to another key"_s;
 }

@@ -169,7 +169,9 @@ void tst_verify::damageThatLosesNothing_isAFinding()
     QVERIFY(run.object()["damage"_L1][0]["harmless"_L1].toBool());
     QCOMPARE(run.object()["damage"_L1][0]["reason"_L1].toString(),
              isCut ? u"unfinished"_s : u"badLineEnd"_s);
-    QCOMPARE(m_folder->run({u"list"_s, u"--json"_s}).array().size(), 3);
+    const ToolRun list = m_folder->run({u"list"_s, u"--json"_s});
+    QCOMPARE(list.array().size(), 3);
+    QCOMPARE(list.err, QByteArray());
 }
 
 void tst_verify::damage_isDamage_data()

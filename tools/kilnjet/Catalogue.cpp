@@ -57,7 +57,7 @@ Catalogue::Catalogue(const StoreSettings &settings, Mode mode, Console &console)
     const StoreSurvey survey = surveyStore(settings, edits ? Access::Write : Access::Read);
     const bool mayBeAbsent = mode == Mode::EditOrCreate || mode == Mode::ReadIfThere;
     if (survey.status != VDBStatus::Ok && !(mayBeAbsent && isAbsent(survey.status)))
-        throw storeFailure(survey.status, survey.error, settings.path);
+        throw storeFailure(survey, settings.path);
     load(survey, console);
 }
 
@@ -71,7 +71,8 @@ void Catalogue::load(const StoreSurvey &survey, Console &console)
         return;
     } else {
         if (!m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-            throw storeFailure(VDBStatus::Io, m_file.errorString(), m_settings.path);
+            throw storeFailure({.status = VDBStatus::Io, .error = m_file.errorString()},
+                               m_settings.path);
         m_database = std::make_unique<VPrintersDb>(&m_file, m_settings.key);
     }
     m_database->init(false);
@@ -79,8 +80,7 @@ void Catalogue::load(const StoreSurvey &survey, Console &console)
         const StoreSurvey again = surveyStore(m_settings, Access::Read);
         if (isAbsent(again.status))
             throw creationFailure(m_settings.path);
-        throw storeFailure(again.status == VDBStatus::Ok ? VDBStatus::Io : again.status,
-                           again.error, m_settings.path);
+        throw storeFailure(again, m_settings.path);
     }
     const qsizetype leftOut = survey.count - m_database->count();
     const QString hint = u"'kilnjet verify %1' tells more"_s.arg(m_settings.path);
@@ -88,7 +88,8 @@ void Catalogue::load(const StoreSurvey &survey, Console &console)
         console.warn(m_settings.path,
                      u"%1 left out, because it cannot be read"_s.arg(counted(leftOut, u"record"_s)),
                      hint);
-    } else if (!survey.damage.isEmpty()) {
+    } else if (std::any_of(survey.damage.begin(), survey.damage.end(),
+                           [](const auto &part) { return !isHarmless(part.reason); })) {
         console.warn(m_settings.path, u"parts of the file are damaged"_s, hint);
     }
 }
@@ -109,7 +110,7 @@ void Catalogue::commit()
     if (isCommitted || !isDirty)
         return;
     const StoreSurvey survey = surveyStore(m_settings, Access::Write);
-    Failure failure = storeFailure(survey.status, survey.error, m_settings.path);
+    Failure failure = storeFailure(survey, m_settings.path);
     failure.what = u"cannot write the changes"_s;
     throw failure;
 }

@@ -60,13 +60,28 @@ QString keyFrom(const QString &path)
     return key;
 }
 
-/// Opens `store` for reading or writing.
-bool openStore(VDBText &store, QFile &file, const StoreSettings &settings, Access access)
+/// Opens `store` and says what there is in it.
+StoreSurvey openStore(VDBText &store, QFile &file, const StoreSettings &settings, Access access)
 {
+    StoreSurvey survey;
     store.setLockTimeout(settings.wait);
     // The second text tells the store what it is opened for.
     store.setKey(settings.key, access == Access::Read ? u""_s : QString());
-    return store.open(&file);
+    store.setReporter([&survey](const VDBDamage &damage) { survey.damage.append(damage); });
+    if (store.open(&file)) {
+        survey.count = store.count();
+        survey.isKeyed = store.isKeyed();
+    }
+    store.setReporter({});
+    survey.status = store.status();
+    survey.error = store.errorString();
+    if (survey.status == VDBStatus::WrongKey) {
+        // Without a key every sound file can be opened; it tells whether it has one.
+        store.setKey(QString(), u""_s);
+        survey.isKeyed = store.open(&file) && store.isKeyed();
+        store.close();
+    }
+    return survey;
 }
 
 /// Why the text is no driver's JSON.
@@ -129,26 +144,24 @@ StoreSettings StoreSettings::from(const Invocation &invocation)
     return settings;
 }
 
+bool isHarmless(VDBDamage::Reason reason)
+{
+    return reason == VDBDamage::Reason::Unfinished || reason == VDBDamage::Reason::BadLineEnd;
+}
+
 StoreSurvey surveyStore(const StoreSettings &settings, Access access)
 {
     QFile file(settings.path);
     VDBText store;
-    StoreSurvey survey;
-    store.setReporter([&survey](const VDBDamage &damage) { survey.damage.append(damage); });
-    if (openStore(store, file, settings, access)) {
-        survey.count = store.count();
-        survey.isKeyed = store.isKeyed();
-    }
-    survey.status = store.status();
-    survey.error = store.errorString();
+    const StoreSurvey survey = openStore(store, file, settings, access);
     store.close();
     return survey;
 }
 
-Failure storeFailure(VDBStatus status, const QString &error, const QString &path)
+Failure storeFailure(const StoreSurvey &survey, const QString &path)
 {
     Failure failure{.code = ExitCode::Io, .where = path, .what = u"cannot open the database"_s};
-    switch (status) {
+    switch (survey.status) {
     case VDBStatus::NotFound:
         failure.why = u"there is no such file"_s;
         failure.hint = u"'kilnjet import' creates it"_s;
@@ -174,8 +187,9 @@ Failure storeFailure(VDBStatus status, const QString &error, const QString &path
         break;
     case VDBStatus::WrongKey:
         failure.code = ExitCode::WrongKey;
-        failure.why = u"it belongs to another key"_s;
-        failure.hint = u"--key-file names the file that holds its key"_s;
+        failure.why = survey.isKeyed ? u"it belongs to another key"_s : u"it has no key"_s;
+        failure.hint = survey.isKeyed ? u"--key-file names the file that holds its key"_s
+                                      : u"leave --key-file out"_s;
         break;
     case VDBStatus::KeyRequired:
         failure.code = ExitCode::WrongKey;
@@ -188,7 +202,7 @@ Failure storeFailure(VDBStatus status, const QString &error, const QString &path
         failure.hint = u"try again when it is done; --wait says how long to wait"_s;
         break;
     default:
-        failure.why = error.isEmpty() ? u"the system refused it"_s : error;
+        failure.why = survey.error.isEmpty() ? u"the system refused it"_s : survey.error;
         break;
     }
     return failure;
@@ -199,12 +213,9 @@ StoreSurvey visitStore(const StoreSettings &settings,
 {
     QFile file(settings.path);
     VDBText store;
-    StoreSurvey survey;
-    store.setReporter([&survey](const VDBDamage &damage) { survey.damage.append(damage); });
-    if (!openStore(store, file, settings, Access::Read))
-        throw storeFailure(store.status(), store.errorString(), settings.path);
-    survey.count = store.count();
-    survey.isKeyed = store.isKeyed();
+    const StoreSurvey survey = openStore(store, file, settings, Access::Read);
+    if (survey.status != VDBStatus::Ok)
+        throw storeFailure(survey, settings.path);
     VDBRecord record;
     for (store.first(record); !record.isNull(); store.next(record))
         visit(judged(record));

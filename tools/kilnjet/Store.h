@@ -37,9 +37,12 @@ struct StoreSurvey
     Database::VDBStatus status = Database::VDBStatus::Ok;
     QString error = {}; ///< The system's words.
     qsizetype count = 0; ///< The live records, those that cannot be read included.
-    bool isKeyed = false;
+    bool isKeyed = false; ///< It has a key, whatever key was given.
     QList<Database::VDBDamage> damage = {};
 };
+
+/// True for damage that loses nothing of what was stored: what a crash or an editor leaves.
+bool isHarmless(Database::VDBDamage::Reason reason);
 
 enum class Access
 {
@@ -50,8 +53,8 @@ enum class Access
 /// Opens the file for `access`, looks through it and closes it. No byte of it changes.
 StoreSurvey surveyStore(const StoreSettings &settings, Access access);
 
-/// The Failure that a status other than Ok means.
-Failure storeFailure(Database::VDBStatus status, const QString &error, const QString &path);
+/// The Failure that a survey with a status other than Ok means.
+Failure storeFailure(const StoreSurvey &survey, const QString &path);
 
 /// One record as it is stored.
 struct StoredRecord

@@ -30,21 +30,20 @@ struct DamageText
     VDBDamage::Reason reason;
     QLatin1StringView name; ///< In JSON.
     QLatin1StringView text;
-    bool isHarmless; ///< Nothing that was stored is lost.
 };
 
 constexpr DamageText kDamageTexts[] = {
     {VDBDamage::Reason::BadSignature, "badSignature"_L1,
-     "the signature of this record does not match its content"_L1, false},
-    {VDBDamage::Reason::NotALine, "notALine"_L1, "these bytes are no line of a database"_L1, false},
+     "the signature of this record does not match its content"_L1},
+    {VDBDamage::Reason::NotALine, "notALine"_L1, "these bytes are no line of a database"_L1},
     {VDBDamage::Reason::BadLineEnd, "badLineEnd"_L1,
-     "this line does not end as it should; nothing is lost"_L1, true},
+     "this line does not end as it should; nothing is lost"_L1},
     {VDBDamage::Reason::BadHeader, "badHeader"_L1,
-     "one copy of the header is damaged or out of place"_L1, false},
+     "one copy of the header is damaged or out of place"_L1},
     {VDBDamage::Reason::BadCommit, "badCommit"_L1,
-     "the end of a batch does not match its records"_L1, false},
+     "the end of a batch does not match its records"_L1},
     {VDBDamage::Reason::Unfinished, "unfinished"_L1,
-     "a batch was never completed; it does not count"_L1, true},
+     "a batch was never completed; it does not count"_L1},
 };
 
 const DamageText &textOf(VDBDamage::Reason reason)
@@ -70,7 +69,7 @@ QJsonObject toJsonObject(const Verdict &verdict)
                                   {u"line"_s, part.line},
                                   {u"id"_s, part.id},
                                   {u"reason"_s, QString(textOf(part.reason).name)},
-                                  {u"harmless"_s, textOf(part.reason).isHarmless}});
+                                  {u"harmless"_s, isHarmless(part.reason)}});
     }
     return {{u"file"_s, verdict.file},
             {u"keyed"_s, verdict.survey.isKeyed},
@@ -112,7 +111,7 @@ QString toText(const Verdict &verdict)
 ExitCode codeOf(const Verdict &verdict)
 {
     for (const VDBDamage &part : verdict.survey.damage) {
-        if (!textOf(part.reason).isHarmless)
+        if (!isHarmless(part.reason))
             return ExitCode::Damaged;
     }
     const bool clean = verdict.leftOut.isEmpty() && verdict.survey.damage.isEmpty();
