@@ -28,9 +28,9 @@ class VPrintersDbPrivate;
 /// and destroy in the owner's thread. After init(true) the load and the commits run on the global
 /// thread pool, one at a time and in order; signals come from the thread that does the work. An
 /// edit waits for a load that was asked for before it; a query gives what is there. Every operation
-/// may be called from a slot, direct or queued: none waits for the thread that calls it. Failures:
-/// bool results, isNull() and error(). Nothing throws, nothing is logged. A commit that fails keeps
-/// what it could not write for the next one.
+/// may be called from a slot, direct or queued: none waits for the thread that calls it.
+/// Failures: bool results, isNull() and error(). Nothing throws, nothing is logged. A commit that
+/// fails keeps what it could not write for the next one.
 class VKILNJET_EXPORT VPrintersDb : public QObject
 {
     Q_OBJECT
