@@ -166,7 +166,9 @@ void tst_show::theSheet_showsAllSamples()
     for (const QString &name : samples.entryList({u"*.json"_s})) {
         const Support::ToolFolder folder;
         VERIFY_CODE(folder.run({u"import"_s, samples.filePath(name)}), 0);
-        const QString id = folder.run({u"list"_s, u"--json"_s}).array()[0]["id"_L1].toString();
+        const ToolRun list = folder.run({u"list"_s, u"--json"_s});
+        VERIFY_CODE(list, 0);
+        const QString id = list.array().at(0)["id"_L1].toString();
         const ToolRun run = folder.run({u"show"_s, id});
         VERIFY_CODE(run, 0);
         QVERIFY(run.text().contains(u"  Id                  "_s + id));

@@ -71,13 +71,11 @@ Command queryCommand()
         .description =
             "Lists, as list does, the machines that meet every condition given.\n"
             "Names of values are taken in any case; 'kilnjet enums' lists them. The channels may "
-            "be "
-            "spread over the print units of a machine. --elaboration, --levels and --resolution "
-            "must hold for one elaboration together. A resolution is \"400x360DPI\", or \"400\" "
-            "for "
-            "both directions; the unit is DPI, PPM or PPMM, DPI when left out, and units are not "
-            "converted. Every word of --text must occur in the names and descriptions of the "
-            "machine and its children, in any case."_L1,
+            "be spread over the print units of a machine. --elaboration, --levels and "
+            "--resolution must hold for one elaboration together. A resolution is "
+            "\"400x360DPI\", or \"400\" for both directions; the unit is DPI, PPM or PPMM, DPI "
+            "when left out, and units are not converted. Every word of --text must occur in the "
+            "names and descriptions of the machine and its children, in any case."_L1,
         .operands = {},
         .options = {{"--class"_L1, ""_L1, "NAME"_L1, "is of this printer class"_L1},
                     {"--channel"_L1, ""_L1, "NAME"_L1,
@@ -127,22 +125,18 @@ Command diffCommand()
         .summary = "Compare two catalogues or two machines field by field"_L1,
         .description =
             "A and B are files if files of these names are there (or \"-\", the standard input): "
-            "each "
-            "a database or records in JSON, which its first bytes show. Otherwise, with --db, they "
-            "are two machines of that database, named as for show.\n"
-            "The machines of two files are matched by content id. Children are matched by kind and "
-            "device id, those left over by kind and position. A difference is named by its JSON "
-            "pointer in A, or in B for what is only there. Metadata is left out, and of icons it "
-            "is "
-            "only said that they differ.\n"
+            "each a database or records in JSON, which its first bytes show. Otherwise, with "
+            "--db, they are two machines of that database, named as for show.\n"
+            "The machines of two files are matched by content id. Children are matched by kind "
+            "and device id, those left over by kind and position. A difference is named by its "
+            "JSON pointer in A, or in B for what is only there. Metadata is left out, and of "
+            "icons it is only said that they differ.\n"
             "With --json: the objects \"a\" and \"b\" and the array \"differences\" for two "
-            "machines; "
-            "for two files their names \"a\" and \"b\", the arrays \"onlyInA\", \"onlyInB\" and "
-            "\"different\" of machines with \"id\" and \"name\", the last with \"differences\", "
-            "and the "
-            "number \"equal\". A difference has \"pointer\", \"change\" (changed, onlyInA, "
-            "onlyInB, "
-            "icon, order) and the values \"a\" and \"b\" as far as there are any.\n"
+            "machines; for two files their names \"a\" and \"b\", the arrays \"onlyInA\", "
+            "\"onlyInB\" and \"different\" of machines with \"id\" and \"name\", the last with "
+            "\"differences\", and the number \"equal\". A difference has \"pointer\", \"change\" "
+            "(changed, onlyInA, onlyInB, icon, order) and the values \"a\" and \"b\" as far as "
+            "there are any.\n"
             "The key of --key-file is used for both files. Colours are for terminals only; set "
             "NO_COLOR to do without."_L1,
         .operands = {{"A"_L1, 1, 1, "a database, a file in JSON, or a machine"_L1},
