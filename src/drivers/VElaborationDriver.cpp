@@ -8,7 +8,8 @@
 
 #include <QtCore/QJsonArray>
 
-#include <cstring>
+#include <algorithm>
+#include <bit>
 
 using namespace Qt::StringLiterals;
 
@@ -30,11 +31,28 @@ constexpr QLatin1StringView kPrefered{"prefered"};
 constexpr QLatin1StringView kMagnificationMin{"magnificationMin"};
 constexpr QLatin1StringView kMagnificationMax{"magnificationMax"};
 
+template<typename Element>
+bool sameElements(const QList<Element> &a, const QList<Element> &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end());
+}
+
 bool sameBits(const QList<double> &a, const QList<double> &b)
 {
-    return a.size() == b.size()
-        && (a.isEmpty()
-            || std::memcmp(a.constData(), b.constData(), size_t(a.size()) * sizeof(double)) == 0);
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](double left, double right) {
+        return std::bit_cast<quint64>(left) == std::bit_cast<quint64>(right);
+    });
+}
+
+/// The elements of a JSON array, each as `convert` makes it from its value.
+template<typename Element, typename Convert>
+QList<Element> listFromJson(const QJsonValue &array, Convert convert)
+{
+    QList<Element> list;
+    const QJsonArray values = array.toArray();
+    for (const QJsonValue &value : values)
+        list.append(convert(value));
+    return list;
 }
 
 } // namespace
@@ -60,9 +78,9 @@ bool VElaborationDriver::operator==(const VElaborationDriver &other) const
     return m_prefered == other.m_prefered
         && m_allowOnlineElaboration == other.m_allowOnlineElaboration
         && m_elaborationType == other.m_elaborationType
-        && m_levelManagementList == other.m_levelManagementList
+        && sameElements(m_levelManagementList, other.m_levelManagementList)
         && sameBits(m_scrollRatioList, other.m_scrollRatioList)
-        && m_resolutionList == other.m_resolutionList
+        && sameElements(m_resolutionList, other.m_resolutionList)
         && m_magnification.first == other.m_magnification.first
         && m_magnification.second == other.m_magnification.second
         && VDeviceConfig::operator==(other);
@@ -176,18 +194,16 @@ QJsonObject VElaborationDriver::toInnerJsonObject() const
 
 bool VElaborationDriver::setInnerJsonObject(const QJsonObject &object)
 {
-    m_scrollRatioList.clear();
-    const QJsonArray scrollRatios = object.value(kScrollRatioList).toArray();
-    for (const QJsonValue &ratio : scrollRatios)
-        m_scrollRatioList.append(ratio.toDouble());
-    m_resolutionList.clear();
-    const QJsonArray resolutions = object.value(kResolutionList).toArray();
-    for (const QJsonValue &resolution : resolutions)
-        m_resolutionList.append(VResolution::fromJsonObject(resolution.toObject()));
-    m_levelManagementList.clear();
-    const QJsonArray levelManagements = object.value(kLevelManagementList).toArray();
-    for (const QJsonValue &mode : levelManagements)
-        m_levelManagementList.append(LevelManagement_T::instance().valueOf(mode.toString()));
+    m_scrollRatioList = listFromJson<double>(
+        object.value(kScrollRatioList), [](const QJsonValue &value) { return value.toDouble(); });
+    m_resolutionList =
+        listFromJson<VResolution>(object.value(kResolutionList), [](const QJsonValue &value) {
+            return VResolution::fromJsonObject(value.toObject());
+        });
+    m_levelManagementList = listFromJson<LevelManagement>(
+        object.value(kLevelManagementList), [](const QJsonValue &value) {
+            return LevelManagement_T::instance().valueOf(value.toString());
+        });
     m_elaborationType =
         ElaborationType_T::instance().valueOf(object.value(kElaborationType).toString());
     m_allowOnlineElaboration = object.value(kAllowOnlineElaboration).toBool();

@@ -67,7 +67,8 @@ bool VPrintUnitDriver::operator==(const VPrintUnitDriver &other) const
 {
     if (this == &other)
         return true;
-    return m_channels == other.m_channels
+    return std::equal(m_channels.begin(), m_channels.end(), other.m_channels.begin(),
+                      other.m_channels.end())
         && m_customVerticalResolution == other.m_customVerticalResolution
         && m_customHorizontalResolution == other.m_customHorizontalResolution
         && VDeviceConfig::operator==(other);
@@ -130,10 +131,11 @@ QJsonObject VPrintUnitDriver::toInnerJsonObject() const
 
 bool VPrintUnitDriver::setInnerJsonObject(const QJsonObject &object)
 {
-    m_channels.clear();
-    const QJsonArray channels = object.value(kChannels).toArray();
-    for (const QJsonValue &name : channels)
-        m_channels.append(Channel_T::instance().valueOf(name.toString()));
+    QList<Channel> channels;
+    const QJsonArray names = object.value(kChannels).toArray();
+    for (const QJsonValue &name : names)
+        channels.append(Channel_T::instance().valueOf(name.toString()));
+    m_channels = channels;
     m_customVerticalResolution = object.value(kCustomVerticalResolution).toBool();
     m_customHorizontalResolution = object.value(kCustomHorizontalResolution).toBool();
     return true;
