@@ -5,6 +5,7 @@
 
 #include "HappensBefore.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QRunnable>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QThreadPool>
@@ -22,10 +23,17 @@ constexpr std::chrono::milliseconds kPatience(50);
 
 constexpr auto kEveryJob = std::numeric_limits<quint64>::max();
 
+/// The pool; null when it is gone. It goes with the application, which a static database outlives,
+/// and must not be asked for then.
+QThreadPool *threadPool()
+{
+    return QCoreApplication::closingDown() ? nullptr : QThreadPool::globalInstance();
+}
+
 bool poolIsSaturated()
 {
-    const QThreadPool *pool = QThreadPool::globalInstance();
-    return pool->activeThreadCount() >= std::max(1, pool->maxThreadCount());
+    const QThreadPool *pool = threadPool();
+    return !pool || pool->activeThreadCount() >= std::max(1, pool->maxThreadCount());
 }
 
 } // namespace
@@ -77,7 +85,10 @@ void DbJobs::schedule(Job job)
         if (job == Job::Load)
             m_lastLoad = m_last;
     }
-    startRunner();
+    if (!startRunner()) {
+        const std::lock_guard databaseGuard(m_lock);
+        runPending();
+    }
 }
 
 void DbJobs::wait()
@@ -110,9 +121,7 @@ void DbJobs::waitFor(Ticket last)
         if (!runnerIsLost && m_progress.wait_for(guard, kPatience) == std::cv_status::no_timeout)
             continue;
         guard.unlock();
-        if (runnerIsLost) {
-            startRunner();
-        } else if (isStarved()) {
+        if (runnerIsLost ? !startRunner() : isStarved()) {
             const std::lock_guard databaseGuard(m_lock);
             runUpTo(last);
         }
@@ -181,18 +190,22 @@ bool DbJobs::runNext(Ticket last)
     return true;
 }
 
-/// Gives a runner to the pool, unless there is one.
-void DbJobs::startRunner()
+/// Gives a runner to the pool, unless there is one. False when there is no pool.
+bool DbJobs::startRunner()
 {
+    QThreadPool *pool = threadPool();
+    if (!pool)
+        return false;
     {
         const std::lock_guard guard(m_mutex);
         if (m_runner != Runner::None || m_pending.empty())
-            return;
+            return true;
         m_runner = Runner::Queued;
     }
     auto task = std::make_unique<RunnerTask>(shared_from_this());
     noteReleased(task.get());
-    QThreadPool::globalInstance()->start(task.release());
+    pool->start(task.release());
+    return true;
 }
 
 void DbJobs::run()

@@ -77,7 +77,7 @@ private:
     bool hasUnclaimedCommit() const;
     bool runNext(Ticket last);
     void runUpTo(Ticket last);
-    void startRunner();
+    bool startRunner();
     void run();
     bool endRunnerIfIdle();
     bool isStarved() const;

@@ -18,6 +18,7 @@
 #include <vimaging/ResolutionUnit.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QLocale>
 #include <QtCore/QTimer>
 
 #include <chrono>
@@ -34,8 +35,9 @@ constexpr std::chrono::milliseconds kCommitDelay(5000);
 /// Builds what writing a record needs. Static objects are destroyed in the reverse order of their
 /// making: a database that is a static object of its host commits on its way out, and these must
 /// still be there.
-void buildEnumerations()
+void buildStaticObjects()
 {
+    QLocale(); // The default locale, in which stored names are written, is one of Qt's.
     ChannelV100Sort_T::instance();
     Channel_T::instance();
     ElaborationType_T::instance();
@@ -60,7 +62,7 @@ VPrintersDb::VPrintersDb(QIODevice *device, const QString &key, QObject *parent)
     : QObject(parent)
     , d(std::make_unique<VPrintersDbPrivate>())
 {
-    buildEnumerations();
+    buildStaticObjects();
     d->key = key;
     d->device = device;
     d->jobs = std::make_shared<DbJobs>([this](DbJobs::Job job) {
