@@ -50,11 +50,13 @@ private Q_SLOTS:
     void init_emitsInitializedOnAPoolThread_data();
     void init_emitsInitializedOnAPoolThread();
     void ready_comesInTheOwnersThreadAndIsTrue();
+    void job_isDoneWhenItSaysSo();
     void failure_isReportedFromThePool();
     void commit_writesOnAPoolThread();
     void commit_behindALoadLosesNoEdit();
     void edit_waitsForALoadThatWasAskedForBefore();
     void commit_behindAnUnclaimedCommitIsServedByIt();
+    void commit_behindARunningCommitWritesWhatCameSince();
     void init_inTheForegroundEndsBackgroundWork();
     void waiting_inTheOnlyPoolThreadDoesTheWork();
     void waiting_onASaturatedPoolDoesTheWork();
@@ -117,6 +119,21 @@ void tst_background::ready_comesInTheOwnersThreadAndIsTrue()
     QCOMPARE(threads, QList<QThread *>{QThread::currentThread()});
     QVERIFY(wasReady);
     QCOMPARE(m_database->findChildren<QTimer *>().size(), 1);
+}
+
+void tst_background::job_isDoneWhenItSaysSo()
+{
+    std::atomic<int> readies = 0;
+    for (const auto signal : {&VPrintersDb::initialized, &VPrintersDb::committed})
+        connect(
+            m_database.get(), signal, this, [&] { readies += m_database->isReady() ? 1 : 0; },
+            Qt::DirectConnection);
+    m_database->init(true);
+    m_database->insert(printer(u"A"_s));
+    QCOMPARE(readies, 1);
+    m_database->commit();
+    m_database->waitForFinished();
+    QCOMPARE(readies, 2);
 }
 
 void tst_background::failure_isReportedFromThePool()
@@ -195,6 +212,29 @@ void tst_background::commit_behindAnUnclaimedCommitIsServedByIt()
     m_database->waitForFinished();
     QCOMPARE(commits.size(), 1);
     QCOMPARE(stored(m_buffer->data()), storedFrom(printers({u"A"_s, u"B"_s, u"C"_s})));
+}
+
+void tst_background::commit_behindARunningCommitWritesWhatCameSince()
+{
+    m_database->init(true);
+    m_database->insert(printer(u"A"_s));
+    std::atomic<int> commits = 0;
+    connect(
+        m_database.get(), &VPrintersDb::committed, this,
+        [&] {
+            if (++commits > 1)
+                return;
+            m_database->insert(printer(u"B"_s));
+            m_database->commit();
+        },
+        Qt::DirectConnection);
+    m_database->commit();
+    m_database->waitForFinished();
+    // The first commit is done, so the second one has been asked for.
+    m_database->waitForFinished();
+    QCOMPARE(commits, 2);
+    QVERIFY(!m_database->isDirty());
+    QCOMPARE(stored(m_buffer->data()), storedFrom(printers({u"A"_s, u"B"_s})));
 }
 
 void tst_background::init_inTheForegroundEndsBackgroundWork()
@@ -302,13 +342,13 @@ void tst_background::destructionSlot_mayAskForACommit()
         [&, database] {
             ++commits;
             database->commit();
-            database->waitForFinished();
         },
         Qt::DirectConnection);
     m_database.reset();
+    // Whatever the pool has been given runs now.
+    makePoolCold();
     QCOMPARE(commits, 1);
     QCOMPARE(stored(m_buffer->data()), storedFrom({printer(u"A"_s)}));
-    makePoolCold();
 }
 
 QTEST_GUILESS_MAIN(tst_background)
