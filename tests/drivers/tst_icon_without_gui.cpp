@@ -6,9 +6,9 @@
 
 #include "support/Drivers.h"
 #include "support/Icons.h"
+#include "support/Threads.h"
 
 #include <QtCore/QTemporaryDir>
-#include <QtCore/QThreadPool>
 #include <QtGui/QIcon>
 #include <QtTest/QTest>
 
@@ -107,13 +107,11 @@ void tst_icon_without_gui::records_areHandledWhole()
 void tst_icon_without_gui::records_areHandledOnThePool()
 {
     bool done = false;
-    QThreadPool pool;
-    pool.start([&] {
+    onThePool([&] {
         records_areHandledWhole();
         images_areWrittenAsPngOfEachSize();
         done = true;
     });
-    QVERIFY(pool.waitForDone());
     QVERIFY(done);
 }
 
@@ -121,24 +119,19 @@ void tst_icon_without_gui::records_areHandledOnThePool()
 void tst_icon_without_gui::copies_areUsedOnSeveralThreadsAtOnce()
 {
     const VPrinterDriver driver = driverWith(twoImages());
-    const QJsonObject expected = driverWith(twoImages()).toJsonObject();
+    const QJsonObject expected = innerOf(driverWith(twoImages()));
     std::vector<VPrinterDriver> copies(8, driver);
-    QAtomicInt good;
-    QThreadPool pool;
-    pool.setMaxThreadCount(4);
-    for (VPrinterDriver &copy : copies) {
-        pool.start([&copy, &expected, &good] {
-            const VPrinterDriver second = copy;
-            const bool same = copy.toJsonObject().value("config"_L1) == expected.value("config"_L1)
-                && second == copy;
-            copy.setName(u"Another"_s);
-            copy.setMaximumFaces(7);
-            copy.setIcon(QIcon());
-            good.fetchAndAddRelaxed(same && second.maximumFaces() == 0 ? 1 : 0);
-        });
-    }
-    QVERIFY(pool.waitForDone());
-    QCOMPARE(good.loadRelaxed(), 8);
+    std::atomic<int> good = 0;
+    inThreads(8, [&](int i) {
+        VPrinterDriver &copy = copies[size_t(i)];
+        const VPrinterDriver second = copy;
+        const bool same = innerOf(copy) == expected && second == copy;
+        copy.setName(u"Another"_s);
+        copy.setMaximumFaces(7);
+        copy.setIcon(QIcon());
+        good += same && second.maximumFaces() == 0 ? 1 : 0;
+    });
+    QCOMPARE(good.load(), 8);
     QVERIFY(innerOf(driver).contains("icon"_L1));
 }
 

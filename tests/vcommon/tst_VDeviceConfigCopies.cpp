@@ -4,10 +4,10 @@
 // Copies of a record share what nobody can reach, and are independent of each other all the same.
 
 #include "support/TestConfig.h"
+#include "support/Threads.h"
 
 #include <vcore/VMetadata.h>
 
-#include <QtCore/QThreadPool>
 #include <QtTest/QTest>
 
 #include <optional>
@@ -272,21 +272,17 @@ void tst_VDeviceConfigCopies::copies_areUsedOnSeveralThreadsAtOnce()
     std::optional<Config> config = unreachable();
     const QJsonObject expected = config->toJsonObject();
     std::vector<Config> copies(8, *config);
-    QAtomicInt good;
-    QThreadPool pool;
-    pool.setMaxThreadCount(4);
-    for (Config &copy : copies) {
-        pool.start([&copy, &expected, &good] {
-            const Config second = copy;
-            const bool same = copy.toJsonObject() == expected && second == copy;
-            first(copy)->setName(u"changed"_s);
-            copy.setName(u"changed"_s);
-            good.fetchAndAddRelaxed(same && second.toJsonObject() == expected ? 1 : 0);
-        });
-    }
     config.reset(); // The original may go while its copies are in use.
-    QVERIFY(pool.waitForDone());
-    QCOMPARE(good.loadRelaxed(), 8);
+    std::atomic<int> good = 0;
+    inThreads(8, [&](int i) {
+        Config &copy = copies[size_t(i)];
+        const Config second = copy;
+        const bool same = copy.toJsonObject() == expected && second == copy;
+        first(copy)->setName(u"changed"_s);
+        copy.setName(u"changed"_s);
+        good += same && second.toJsonObject() == expected ? 1 : 0;
+    });
+    QCOMPARE(good.load(), 8);
 }
 
 QTEST_GUILESS_MAIN(tst_VDeviceConfigCopies)

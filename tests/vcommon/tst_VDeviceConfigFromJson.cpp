@@ -5,10 +5,10 @@
 
 #include "support/Seed.h"
 #include "support/TestConfig.h"
+#include "support/Threads.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QThreadPool>
 #include <QtTest/QTest>
 
 using namespace Support;
@@ -91,19 +91,14 @@ void tst_VDeviceConfigFromJson::registry_takesNull()
 void tst_VDeviceConfigFromJson::registry_isUsedFromAnyThread()
 {
     const QByteArray json = bytesOf(family());
-    QAtomicInt good;
-    QThreadPool pool;
-    pool.setMaxThreadCount(4);
-    for (int i = 0; i < 16; ++i) {
-        pool.start([&json, &good, i] {
-            if (i % 4 == 0)
-                VDeviceConfig::registerConfig(std::make_unique<Config>().release());
-            const auto config = read(json);
-            good.fetchAndAddRelaxed(config && bytesOf(*config) == json ? 1 : 0);
-        });
-    }
-    QVERIFY(pool.waitForDone());
-    QCOMPARE(good.loadRelaxed(), 16);
+    std::atomic<int> good = 0;
+    inThreads(16, [&](int i) {
+        if (i % 4 == 0)
+            VDeviceConfig::registerConfig(std::make_unique<Config>().release());
+        const auto config = read(json);
+        good += config && bytesOf(*config) == json ? 1 : 0;
+    });
+    QCOMPARE(good.load(), 16);
 }
 
 void tst_VDeviceConfigFromJson::record_isRebuilt()
@@ -208,8 +203,7 @@ void tst_VDeviceConfigFromJson::nesting_mayBeDeep()
         const QByteArray open = "{\"id\":\"" + kindText(kind) + "\",\"children\":[";
         const QByteArray json = "{\"id\":\"" + kindText() + "\",\"children\":["
             + open.repeated(levels) + QByteArray("]}").repeated(levels) + "]}";
-        QThreadPool pool; // Where the stack may be smaller.
-        pool.start([&] {
+        onThePool([&] { // Where the stack may be smaller.
             const auto config = read(json);
             QTEST(config != nullptr, "isRecord");
             if (!config)
@@ -220,7 +214,6 @@ void tst_VDeviceConfigFromJson::nesting_mayBeDeep()
             const bool isKnown = kind == Config::kind();
             QCOMPARE(config->count(QUuid(), true), isKnown ? levels : 1);
         });
-        QVERIFY(pool.waitForDone());
     }
     QVERIFY(read(QByteArray("[").repeated(levels)) == nullptr);
     QVERIFY(read(QByteArray("{\"a\":").repeated(levels)) == nullptr);
