@@ -47,6 +47,7 @@ private Q_SLOTS:
     void equality_seesEveryField();
     void equalsTo_needsTheSameClass();
     void copies_areEqualAndIndependent();
+    void copies_ofWhatEqualsNothingAreUnequal();
     void clone_isEqualAndIndependent();
     void fromJson_rebuildsTheDriver();
 };
@@ -242,6 +243,19 @@ void tst_VPrinterDriver::copies_areEqualAndIndependent()
     const VPrinterDriver &alias = assigned;
     assigned = alias;
     QVERIFY(assigned == copy);
+}
+
+void tst_VPrinterDriver::copies_ofWhatEqualsNothingAreUnequal()
+{
+    VElaborationDriver method = elaboration();
+    method.setMagnification({std::numeric_limits<double>::quiet_NaN(), 1.0});
+    VPrinterDriver driver(kSpace);
+    driver.insert(&method, false);
+    const VPrinterDriver copy = driver;
+    const VPrinterDriver second = copy;
+    QVERIFY(driver != copy); // No number is not equal to itself, however copies are made.
+    QVERIFY(copy != second);
+    QVERIFY(copy == copy);
 }
 
 void tst_VPrinterDriver::clone_isEqualAndIndependent()

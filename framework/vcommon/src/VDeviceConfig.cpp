@@ -189,12 +189,10 @@ void VDeviceConfig::insert(IVDeviceConfig *config, bool takeOwnership)
         || (takeOwnership && contains(config, true));
     if (refused)
         return;
-    if (takeOwnership) {
+    if (takeOwnership)
         ownChildren().appendReachable(std::unique_ptr<IVDeviceConfig>(config));
-    } else {
-        std::unique_ptr<IVDeviceConfig> copy(static_cast<IVDeviceConfig *>(config->clone()));
-        ownChildren().append(std::move(copy));
-    }
+    else
+        ownChildren().appendClone(*config);
 }
 
 bool VDeviceConfig::remove(const QUuid &id, bool deep)

@@ -29,11 +29,6 @@ bool losesMetadataInACopy(const Config &config)
     });
 }
 
-std::unique_ptr<Config> cloneOf(const Config &config)
-{
-    return std::unique_ptr<Config>(static_cast<Config *>(config.clone()));
-}
-
 } // namespace
 
 VDeviceConfigChildren::Pointer VDeviceConfigChildren::copyOf(const Pointer &children)
@@ -69,7 +64,7 @@ VDeviceConfigChildren::Pointer VDeviceConfigChildren::clones() const
     Pointer copy(new VDeviceConfigChildren);
     copy->m_configs.reserve(m_configs.size());
     for (const auto &config : m_configs)
-        copy->append(cloneOf(*config));
+        copy->appendClone(*config);
     return copy;
 }
 
@@ -81,6 +76,14 @@ void VDeviceConfigChildren::append(std::unique_ptr<Config> config)
     m_shareable = m_shareable && base != nullptr && !losesMetadataInACopy(*config)
         && (!base->m_children || base->m_children->m_shareable);
     m_configs.push_back(std::move(config));
+}
+
+void VDeviceConfigChildren::appendClone(const Config &config)
+{
+    auto copy = std::unique_ptr<Config>(static_cast<Config *>(config.clone()));
+    // Nor may a child be shared that equals itself but not its copy, as one that holds a NaN.
+    m_shareable = m_shareable && copy->equalsTo(&config);
+    append(std::move(copy));
 }
 
 void VDeviceConfigChildren::appendReachable(std::unique_ptr<Config> config)

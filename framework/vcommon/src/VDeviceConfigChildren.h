@@ -34,8 +34,8 @@ public:
 
     /// A block of clones.
     Pointer clones() const;
-    /// Appends a child that nobody else can reach.
-    void append(std::unique_ptr<Config> config);
+    /// Appends a copy of `config`.
+    void appendClone(const Config &config);
     /// Appends a child to which the caller keeps a pointer.
     void appendReachable(std::unique_ptr<Config> config);
     /// The children of the kind `id`, as pointers for the caller to keep.
@@ -53,6 +53,8 @@ public:
     bool equals(const VDeviceConfigChildren &other) const;
 
 private:
+    void append(std::unique_ptr<Config> config);
+
     std::vector<std::unique_ptr<Config>> m_configs;
     bool m_shareable = true;
 };
