@@ -256,9 +256,10 @@ bool VDBText::create(QIODevice *device, const QString &keyField, const int &opti
         return d->fail(d->status == VDBStatus::Io ? VDBStatus::Io : VDBStatus::NotEmpty);
     const QByteArray line =
         encodeHeader({keyField, option, cultureName(locale), format, d->signer.keyCheck()});
-    const QByteArray header = line + '\n' + line + '\n';
-    if ((d->end > 0 && !d->access.truncate(0)) || !d->access.write(0, header) || !d->access.sync()
-        || !d->access.syncCreation()) {
+    QByteArray header = line + '\n' + line + '\n';
+    // What a crash left of an earlier creation is written over; blank lines have no meaning.
+    header.append(std::max(d->end - header.size(), qint64(0)), '\n');
+    if (!d->access.write(0, header) || !d->access.sync() || !d->access.syncCreation()) {
         [[maybe_unused]] const bool isCut = d->access.truncate(0);
         d->access.removeCreated();
         return d->fail(VDBStatus::Io);
