@@ -5,11 +5,11 @@
 set(VKILNJET_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 set(VKILNJET_TEST_TIMEOUT 300)
 
-# vkilnjet_add_tests(AREA LIBRARIES TARGET... [DEPENDS TARGET...])
+# vkilnjet_add_tests(AREA LIBRARIES TARGET... [DEFINITIONS NAME=VALUE...] [DEPENDS TARGET...])
 #
 # Every tst_*.cpp of the current folder becomes one program and one test, named AREA.FILE.
 function(vkilnjet_add_tests area)
-    cmake_parse_arguments(arg "" "" "LIBRARIES;DEFINITIONS" ${ARGN})
+    cmake_parse_arguments(arg "" "" "LIBRARIES;DEFINITIONS;DEPENDS" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS "tst_*.cpp")
     foreach(source IN LISTS sources)
         get_filename_component(file ${source} NAME_WE)
@@ -20,6 +20,9 @@ function(vkilnjet_add_tests area)
         target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
         target_link_libraries(${target} PRIVATE vkilnjet_compiler Qt6::Test ${arg_LIBRARIES})
         target_compile_definitions(${target} PRIVATE ${arg_DEFINITIONS})
+        if(arg_DEPENDS)
+            add_dependencies(${target} ${arg_DEPENDS})
+        endif()
         add_test(NAME ${area}.${topic} COMMAND ${target})
         set_tests_properties(${area}.${topic} PROPERTIES
             ENVIRONMENT "${VKILNJET_TEST_ENVIRONMENT}" TIMEOUT ${VKILNJET_TEST_TIMEOUT})
