@@ -28,3 +28,10 @@ function(vkilnjet_add_tests area)
             ENVIRONMENT "${VKILNJET_TEST_ENVIRONMENT}" TIMEOUT ${VKILNJET_TEST_TIMEOUT})
     endforeach()
 endfunction()
+
+# vkilnjet_torture(TEST...)
+#
+# Makes these tests part of `./dev torture`, which sets KILNJET_TORTURE so that they do much more.
+function(vkilnjet_torture)
+    set_tests_properties(${ARGN} PROPERTIES LABELS torture TIMEOUT 1800)
+endfunction()
