@@ -3,6 +3,8 @@
 
 #include "Run.h"
 
+#include <kilnjet/VKilnjetInfo.h>
+
 #include <QtCore/QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -21,6 +23,6 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"kilnjet"_s);
-    QCoreApplication::setApplicationVersion(QStringLiteral(KILNJET_VERSION));
+    QCoreApplication::setApplicationVersion(Norvane::Kilnjet::VKilnjetInfo::version().toString());
     return Norvane::Kilnjet::Tool::run(QCoreApplication::arguments().mid(1));
 }
