@@ -3,22 +3,9 @@
 
 #include "VDBBatch.h"
 
-#include <vcore/VConvert.h>
-#include <vcore/VLocale.h>
-
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Database {
-
-QString cultureName(const QLocale &locale)
-{
-    return locale.name().replace(u'_', u'-');
-}
-
-QLocale cultureLocale(const QString &name)
-{
-    return VLocale(name, QLocale::OmitGroupSeparator);
-}
 
 void Batch::clear()
 {
@@ -49,7 +36,7 @@ void Batch::insert(const QString &id, const QByteArray &payload)
 void Batch::remove(const QString &id, bool wasStored)
 {
     QByteArray payload;
-    appendEscaped(payload, id);
+    appendEscaped(payload, id.toUtf8());
     const auto known = m_byId.constFind(id);
     if (known != m_byId.constEnd()) {
         // A record that was only ever in the batch leaves a removal of nothing behind: harmless.
@@ -79,23 +66,6 @@ QByteArray encodeCommit(std::size_t count, const QByteArray &sums, const Signer 
         encodeFields({{u"lines"_s, QString::number(count)},
                       {u"digest"_s, QString::fromLatin1(Signer::sum(sums))}});
     return encodeLine(LineKind::Commit, payload, signer);
-}
-
-QByteArray encodeRecord(const VDBRecord &record, const QString &culture)
-{
-    const QLocale locale = cultureLocale(culture);
-    QList<FormatField> fields;
-    if (!culture.isEmpty())
-        fields.append({VDBRecord::cultureKey(), culture});
-    for (const QString &key : record.keys()) {
-        if (key == VDBRecord::cultureKey())
-            continue; // The store's own business.
-        const QVariant value = record.search(key).value();
-        fields.append(
-            {key,
-             value.isNull() ? std::nullopt : std::optional(VConvert::toString(value, locale))});
-    }
-    return encodeFields(fields);
 }
 
 } // namespace Norvane::Database

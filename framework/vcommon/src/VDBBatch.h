@@ -5,19 +5,12 @@
 
 #include "VDBFormat.h"
 
-#include <vcommon/VDBRecord.h>
-
 #include <QtCore/QHash>
-#include <QtCore/QLocale>
 
+#include <optional>
 #include <vector>
 
 namespace Norvane::Database {
-
-/// The name that a stored locale goes by: "en-US".
-QString cultureName(const QLocale &locale);
-/// The locale of that name, which writes numbers without group separators.
-QLocale cultureLocale(const QString &name);
 
 /// The changes between open() and close(): for each key the last thing that was asked for.
 class Batch
@@ -56,8 +49,5 @@ private:
 
 /// The commit line for `count` lines whose sums, in order, are `sums`.
 QByteArray encodeCommit(std::size_t count, const QByteArray &sums, const Signer &signer);
-
-/// The payload of an insert line: the culture, if it is kept, and the fields of the record as text.
-QByteArray encodeRecord(const VDBRecord &record, const QString &culture);
 
 } // namespace Norvane::Database

@@ -5,6 +5,7 @@
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QMessageAuthenticationCode>
+#include <QtCore/QStringDecoder>
 
 #include <algorithm>
 
@@ -18,12 +19,40 @@ constexpr auto kHash = QCryptographicHash::Blake2b_256;
 constexpr auto kBase64 = QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals;
 /// A sum or a code in Base64.
 constexpr qsizetype kSumLength = 43;
+/// The characters with an escape of their own, and the letters that these consist of.
+constexpr qsizetype kEscapes = 4;
+constexpr char kEscaped[] = "\\\t\n\r";
+constexpr char kLetters[] = "\\tnr";
 /// Lengths have at most this many digits; no file is longer.
 constexpr qsizetype kMaxLengthDigits = 15;
 
 QByteArray authenticationCode(const QByteArray &message, const QByteArray &key)
 {
     return QMessageAuthenticationCode::hash(message, key, kHash);
+}
+
+bool needsEscape(char c, bool isKey)
+{
+    return uchar(c) < 0x20 || c == '\\' || (isKey && c == '=');
+}
+
+/// How many of the first bytes need no escape.
+qsizetype plainLength(QByteArrayView utf8, bool isKey)
+{
+    // Whole blocks without a way out of the loop can be compared many bytes at a time.
+    constexpr qsizetype kBlock = 64;
+    qsizetype length = 0;
+    for (; utf8.size() - length >= kBlock; length += kBlock) {
+        const char *const block = utf8.data() + length;
+        bool isFound = false;
+        for (qsizetype i = 0; i < kBlock; ++i)
+            isFound |= needsEscape(block[i], isKey);
+        if (isFound)
+            break;
+    }
+    while (length < utf8.size() && !needsEscape(utf8[length], isKey))
+        ++length;
+    return length;
 }
 
 int hexDigit(char c)
@@ -38,12 +67,9 @@ void appendUnescaped(QByteArray &plain, QByteArrayView bytes, qsizetype &positio
 {
     const qsizetype left = bytes.size() - position;
     const char next = left > 1 ? bytes[position + 1] : '\0';
-    const char *const letters = "\\tnr";
-    const char *const values = "\\\t\n\r";
-    if (const char *const letter =
-            next != '\0' ? std::find(letters, letters + 4, next) : letters + 4;
-        letter != letters + 4) {
-        plain.append(values[letter - letters]);
+    if (const char *const letter = std::find(kLetters, kLetters + kEscapes, next);
+        letter != kLetters + kEscapes) {
+        plain.append(kEscaped[letter - kLetters]);
         position += 2;
     } else if (next == 'x' && left > 3 && hexDigit(bytes[position + 2]) >= 0
                && hexDigit(bytes[position + 3]) >= 0) {
@@ -57,58 +83,71 @@ void appendUnescaped(QByteArray &plain, QByteArrayView bytes, qsizetype &positio
 
 } // namespace
 
-void appendEscaped(QByteArray &bytes, const QString &text, bool isKey)
+void appendEscaped(QByteArray &bytes, QByteArrayView utf8, bool isKey)
 {
-    const QByteArray utf8 = text.toUtf8();
-    for (const char c : utf8) {
-        switch (c) {
-        case '\\':
-            bytes.append("\\\\");
-            break;
-        case '\t':
-            bytes.append("\\t");
-            break;
-        case '\n':
-            bytes.append("\\n");
-            break;
-        case '\r':
-            bytes.append("\\r");
-            break;
-        default:
-            if (uchar(c) < 0x20 || (isKey && c == '='))
-                bytes.append("\\x").append(QByteArray(1, c).toHex());
-            else
-                bytes.append(c);
-        }
+    while (!utf8.isEmpty()) {
+        const qsizetype plain = plainLength(utf8, isKey);
+        bytes.append(utf8.first(plain));
+        if (plain == utf8.size())
+            return;
+        const char c = utf8[plain];
+        if (const char *const letter = std::find(kEscaped, kEscaped + kEscapes, c);
+            letter != kEscaped + kEscapes)
+            bytes.append('\\').append(kLetters[letter - kEscaped]);
+        else
+            bytes.append("\\x").append(QByteArray(1, c).toHex());
+        utf8 = utf8.sliced(plain + 1);
     }
+}
+
+QByteArray unescapedUtf8(QByteArrayView bytes)
+{
+    QByteArray plain;
+    plain.reserve(bytes.size());
+    for (qsizetype position = 0; position < bytes.size();) {
+        const qsizetype next = bytes.indexOf('\\', position);
+        const qsizetype end = next < 0 ? bytes.size() : next;
+        plain.append(bytes.sliced(position, end - position));
+        position = end;
+        if (next >= 0)
+            appendUnescaped(plain, bytes, position);
+    }
+    return plain;
 }
 
 QString unescaped(QByteArrayView bytes)
 {
-    if (!bytes.contains('\\'))
-        return QString::fromUtf8(bytes);
-    QByteArray plain;
-    plain.reserve(bytes.size());
-    for (qsizetype position = 0; position < bytes.size();) {
-        if (bytes[position] == '\\')
-            appendUnescaped(plain, bytes, position);
-        else
-            plain.append(bytes[position++]);
+    return bytes.contains('\\') ? textFromUtf8(unescapedUtf8(bytes)) : textFromUtf8(bytes);
+}
+
+QString textFromUtf8(QByteArrayView utf8)
+{
+    // By itself Qt would take a leading byte order mark away: here it is a character like others.
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringConverter::Flag::Stateless
+                               | QStringConverter::Flag::ConvertInitialBom);
+    return utf8.startsWith("\xEF\xBB\xBF") ? decoder(utf8) : QString::fromUtf8(utf8);
+}
+
+void appendField(QByteArray &payload, const QString &key, std::optional<QByteArrayView> utf8)
+{
+    if (!payload.isEmpty())
+        payload.append('\t');
+    appendEscaped(payload, key.toUtf8(), true);
+    if (utf8) {
+        payload.append('=');
+        appendEscaped(payload, *utf8);
     }
-    return QString::fromUtf8(plain);
 }
 
 QByteArray encodeFields(const QList<FormatField> &fields)
 {
     QByteArray payload;
     for (const FormatField &field : fields) {
-        if (!payload.isEmpty())
-            payload.append('\t');
-        appendEscaped(payload, field.key, true);
-        if (field.value) {
-            payload.append('=');
-            appendEscaped(payload, *field.value);
-        }
+        if (field.value)
+            appendField(payload, field.key, field.value->toUtf8());
+        else
+            appendField(payload, field.key, std::nullopt);
     }
     return payload;
 }
@@ -117,24 +156,42 @@ QList<FormatField> decodeFields(QByteArrayView payload)
 {
     QList<FormatField> fields;
     while (!payload.isEmpty()) {
-        qsizetype end = payload.indexOf('\t');
-        if (end < 0)
-            end = payload.size();
-        const QByteArrayView field = payload.first(end);
-        const qsizetype equals = field.indexOf('=');
-        if (equals < 0)
-            fields.append({unescaped(field), std::nullopt});
-        else
-            fields.append({unescaped(field.first(equals)), unescaped(field.sliced(equals + 1))});
-        payload = payload.sliced(std::min(end + 1, payload.size()));
+        const RawField field = takeField(payload);
+        fields.append({unescaped(field.key),
+                       field.value ? std::optional(unescaped(*field.value)) : std::nullopt});
     }
     return fields;
+}
+
+RawField takeField(QByteArrayView &payload)
+{
+    const qsizetype tab = payload.indexOf('\t');
+    const QByteArrayView field = tab < 0 ? payload : payload.first(tab);
+    payload = tab < 0 ? QByteArrayView() : payload.sliced(tab + 1);
+    const qsizetype equals = field.indexOf('=');
+    if (equals < 0)
+        return {field, std::nullopt};
+    return {field.first(equals), field.sliced(equals + 1)};
+}
+
+std::optional<RawField> lastField(QByteArrayView payload, const QString &key)
+{
+    const QByteArray utf8 = key.toUtf8();
+    std::optional<RawField> last;
+    while (!payload.isEmpty()) {
+        const RawField field = takeField(payload);
+        const bool isPlain = std::all_of(field.key.begin(), field.key.end(),
+                                         [](char c) { return uchar(c) < 0x80 && c != '\\'; });
+        if (isPlain ? field.key == utf8 : unescaped(field.key) == key)
+            last = field;
+    }
+    return last;
 }
 
 QString findField(QByteArrayView payload, const QString &key)
 {
     QByteArray start;
-    appendEscaped(start, key, true);
+    appendEscaped(start, key.toUtf8(), true);
     start.append('=');
     while (!payload.startsWith(start)) {
         const qsizetype tab = payload.indexOf('\t');

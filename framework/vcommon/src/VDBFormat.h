@@ -38,14 +38,32 @@ struct FormatField
     std::optional<QString> value;
 };
 
-/// Appends `text` with what would end a field or a line written as an escape.
-void appendEscaped(QByteArray &bytes, const QString &text, bool isKey = false);
+/// Appends the text `utf8` with what would end a field or a line written as an escape.
+void appendEscaped(QByteArray &bytes, QByteArrayView utf8, bool isKey = false);
 /// Reads what appendEscaped() wrote; a broken escape stands for itself.
+QByteArray unescapedUtf8(QByteArrayView bytes);
 QString unescaped(QByteArrayView bytes);
+/// The text of `utf8`, whose first character may be a byte order mark; what is no UTF-8 is replaced
+/// by U+FFFD.
+QString textFromUtf8(QByteArrayView utf8);
 
+/// Appends a field, "key=value", or the key alone for a null value, behind a tab where one is due.
+void appendField(QByteArray &payload, const QString &key, std::optional<QByteArrayView> utf8);
 /// Writes fields as "key=value" joined by tabs; a field with a null value is its key alone.
 QByteArray encodeFields(const QList<FormatField> &fields);
 QList<FormatField> decodeFields(QByteArrayView payload);
+
+/// One field of a payload as it stands there, escapes and all.
+struct RawField
+{
+    QByteArrayView key;
+    std::optional<QByteArrayView> value;
+};
+
+/// Takes the first field off a payload that is not empty.
+RawField takeField(QByteArrayView &payload);
+/// The last field `key`, which is the one that counts; nothing when there is none.
+std::optional<RawField> lastField(QByteArrayView payload, const QString &key);
 /// The value of the first field `key`; a null text when it is missing or null. Decodes nothing
 /// else.
 QString findField(QByteArrayView payload, const QString &key);

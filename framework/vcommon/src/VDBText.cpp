@@ -31,7 +31,8 @@ public:
     void forget();
     QByteArray tailRepair() const;
     QByteArray compacted() const;
-    void give(VDBRecord &record, qsizetype ordinal);
+    VDBRecord recordAt(qsizetype ordinal) const; ///< A null one beyond the ends.
+    bool addToBatch(const VDBRecord &record);
     void giveNext(VDBRecord &record);
 
     Device access;
@@ -205,27 +206,39 @@ QByteArray VDBTextPrivate::compacted() const
     return damaged.isEmpty() ? content : content + damaged + seal;
 }
 
-void VDBTextPrivate::give(VDBRecord &record, qsizetype ordinal)
+VDBRecord VDBTextPrivate::recordAt(qsizetype ordinal) const
 {
-    record = VDBRecord();
+    VDBRecord record;
     if (ordinal < 0 || std::size_t(ordinal) >= live.size())
-        return;
+        return record;
     const Entry &entry = contents.entries[live[std::size_t(ordinal)]];
-    const QByteArrayView payload =
-        QByteArrayView(bytes).sliced(entry.offset + entry.payloadAt, entry.size - entry.payloadAt);
-    for (const FormatField &field : decodeFields(payload))
-        record.insert(field.key, field.value ? QVariant(*field.value) : QVariant());
+    record.d->payload = VBytes(
+        bytes,
+        QByteArrayView(bytes).sliced(entry.offset + entry.payloadAt, entry.size - entry.payloadAt));
     record.d->isSigned = entry.isSound;
     record.d->line = entry.line;
     record.d->offset = entry.offset;
     record.d->ordinal = ordinal;
+    return record;
+}
+
+bool VDBTextPrivate::addToBatch(const VDBRecord &record)
+{
+    const bool hasCulture = (contents.header.options & VDBText::WithCulture) != 0;
+    const QString culture = contents.header.locale;
+    const QString id =
+        VConvert::toString(record.search(contents.header.keyField).value(), cultureLocale(culture));
+    if (id.isEmpty())
+        return false;
+    batch.insert(id, record.d->encoded(hasCulture ? culture : QString()));
+    return true;
 }
 
 /// Replaces `record` by its neighbour.
 void VDBTextPrivate::giveNext(VDBRecord &record)
 {
     const qsizetype ordinal = record.d.constData()->ordinal;
-    give(record, ordinal >= 0 && ensureBytes() ? ordinal + 1 : -1);
+    record = recordAt(ordinal >= 0 && ensureBytes() ? ordinal + 1 : -1);
 }
 
 VDBText::VDBText()
@@ -298,16 +311,7 @@ QString VDBText::key()
 
 bool VDBText::insert(const VDBRecord &record)
 {
-    if (!isOpen() || d->intent == Device::Intent::Read)
-        return false;
-    const bool hasCulture = (d->contents.header.options & WithCulture) != 0;
-    const QString culture = d->contents.header.locale;
-    const QString id = VConvert::toString(record.search(d->contents.header.keyField).value(),
-                                          cultureLocale(culture));
-    if (id.isEmpty())
-        return false;
-    d->batch.insert(id, encodeRecord(record, hasCulture ? culture : QString()));
-    return true;
+    return isOpen() && d->intent == Device::Intent::Write && d->addToBatch(record);
 }
 
 bool VDBText::remove(const QString &id)
@@ -349,17 +353,28 @@ bool VDBText::reindex()
 
 void VDBText::first(VDBRecord &record)
 {
-    d->give(record, d->ensureBytes() ? 0 : -1);
+    record = d->recordAt(d->ensureBytes() ? 0 : -1);
 }
 
 void VDBText::last(VDBRecord &record)
 {
-    d->give(record, d->ensureBytes() ? qsizetype(d->live.size()) - 1 : -1);
+    record = d->recordAt(d->ensureBytes() ? qsizetype(d->live.size()) - 1 : -1);
 }
 
 void VDBText::next(VDBRecord &record)
 {
     d->giveNext(record);
+}
+
+QList<VDBRecord> VDBText::values()
+{
+    QList<VDBRecord> records;
+    if (!d->ensureBytes())
+        return records;
+    records.reserve(qsizetype(d->live.size()));
+    for (std::size_t i = 0; i < d->live.size(); ++i)
+        records.append(d->recordAt(qsizetype(i)));
+    return records;
 }
 
 bool VDBText::isOpen() const

@@ -5,10 +5,13 @@
 
 #include <vcommon/Export.h>
 #include <vcommon/VDBField.h>
+#include <vcore/VBytes.h>
 
 #include <QtCore/QSharedDataPointer>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+
+#include <optional>
 
 namespace Norvane::Database {
 
@@ -18,8 +21,9 @@ class VDBTextPrivate;
 /// One record of a text database: fields in order, each a key and a value.
 ///
 /// The store writes values as text, in the locale that the field cultureKey() names, and adds that
-/// field and the signature by itself. Copies are cheap and independent.
-/// Threads: one at a time for one object.
+/// field and the signature by itself. Copies are cheap and independent. A record from a store keeps
+/// the bytes that were read in memory, and decodes a field whenever it is asked for.
+/// Threads: one at a time for one object; copies may live on different threads.
 class VCOMMON_EXPORT VDBRecord
 {
 public:
@@ -33,8 +37,14 @@ public:
 
     /// Appends the field `key`, or gives it a new value; the signature no longer matches then.
     void insert(const QString &key, const QVariant &value);
+    /// The same with the value as UTF-8, which goes to the file without a detour over QString. What
+    /// is no UTF-8 is replaced as QString::fromUtf8() does it. A null array is an empty text.
+    void insertUtf8(const QString &key, const QByteArray &utf8);
     /// The field `key`, found or not.
     VDBField search(const QString &key) const;
+    /// The value of the field `key` as valid UTF-8; nothing when it is missing or null. These are
+    /// the stored bytes themselves, shared and not copied, unless they contain escapes.
+    std::optional<VBytes> utf8(const QString &key) const;
     /// The keys in order.
     QStringList keys() const;
 

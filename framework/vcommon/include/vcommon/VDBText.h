@@ -6,6 +6,8 @@
 #include <vcommon/IVDatabase.h>
 #include <vcommon/VDBStatus.h>
 
+#include <QtCore/QList>
+
 #include <chrono>
 #include <memory>
 
@@ -62,6 +64,10 @@ public:
     QString key() override;
     [[nodiscard]] bool reindex() override;
     void next(VDBRecord &record) override;
+
+    /// Every record in file order, as a walk from first() to last() meets them; cheap, since they
+    /// share the bytes that were read. Each may be used on another thread, and after close().
+    QList<VDBRecord> values();
 
     /// True between a successful open() or create() and close().
     bool isOpen() const;
