@@ -222,7 +222,7 @@ def pattern(steps, m, p, side=20):
 def tiff(grey, resolution, side=20):
     """A baseline greyscale TIFF: header, one directory, the resolution, one strip."""
     short, long, rational = 3, 4, 5
-    count = 11
+    count = 12
     after = 8 + 2 + 12 * count + 4
     entries = [
         (256, short, side),  # width
@@ -235,7 +235,8 @@ def tiff(grey, resolution, side=20):
         (278, short, side),  # rows in the strip
         (279, long, len(grey)),  # bytes in the strip
         (282, rational, after),  # across and
-        (283, rational, after),  # down, one value for both
+        (283, rational, after),  # down, one value for both,
+        (296, short, 2),  # by the inch
     ]
     directory = b"".join(struct.pack("<2H2L", tag, kind, 1, value) for tag, kind, value in entries)
     fraction = struct.pack("<2L", resolution.numerator, resolution.denominator)
