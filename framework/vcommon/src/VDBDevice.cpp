@@ -43,6 +43,15 @@ bool writeAll(QIODevice &device, QByteArrayView bytes)
     return file == nullptr || file->flush();
 }
 
+/// Lets a closed file forget what it knows. Once Qt's file has failed to ask the system for the
+/// state of a file, it takes that for a sequential one each time that it is opened.
+void renew(QFileDevice *device)
+{
+    // A file of another class may have ideas of its own about its name.
+    if (device->metaObject() == &QFile::staticMetaObject)
+        static_cast<QFile *>(device)->setFileName(device->fileName());
+}
+
 } // namespace
 
 QFileDevice *Device::file() const
@@ -107,8 +116,11 @@ VDBStatus Device::openFile(QFileDevice *fileDevice, Intent intent,
             return VDBStatus::NotFound;
         m_hasCreated = !info.exists();
         const bool foundClosed = m_foundMode == QIODevice::NotOpen;
-        if (foundClosed && !reopen(modeFor(intent)))
-            return VDBStatus::Io;
+        if (foundClosed) {
+            renew(fileDevice);
+            if (!reopen(modeFor(intent)))
+                return VDBStatus::Io;
+        }
         if (const VDBStatus status = openPlain(fileDevice, intent); status != VDBStatus::Ok)
             return status;
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
@@ -124,6 +136,10 @@ VDBStatus Device::openFile(QFileDevice *fileDevice, Intent intent,
         const std::optional<FileIdentity> current = fileIdentity(path);
         if (locked && current && locked->isSameFileAs(*current))
             return VDBStatus::Ok;
+        if (!locked || (!current && QFileInfo::exists(path))) {
+            m_error = u"the system does not tell the file's state"_s;
+            return VDBStatus::Io;
+        }
         unlock();
         if (foundClosed)
             fileDevice->close();
