@@ -11,6 +11,8 @@
 #include <vcommon/VDBIterator.h>
 #include <vcore/VLocale.h>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Kilnjet {
@@ -32,11 +34,14 @@ bool openOrCreate(VDBText &store, QIODevice *device)
     return store.status() == Database::VDBStatus::NotEmpty && store.open(device);
 }
 
-QMap<QUuid, VPrinterDriver> readDrivers(VDBText &store)
+/// Nothing when the store cannot be read; an unchanged one is not read before it is asked for.
+std::optional<QMap<QUuid, VPrinterDriver>> readDrivers(VDBText &store)
 {
     VDBRecord first;
-    VDBRecord last;
     store.first(first);
+    if (store.status() != Database::VDBStatus::Ok)
+        return std::nullopt;
+    VDBRecord last;
     store.last(last);
     VDBIterator end(store, last);
     ++end;
@@ -63,16 +68,18 @@ void VPrintersDb::_init()
 {
     const auto guard = d->locked();
     d->setKeyToRead();
-    if (!d->device || !openOrCreate(d->store, d->device)) {
-        d->null = true;
+    std::optional<QMap<QUuid, VPrinterDriver>> loaded;
+    if (d->device && openOrCreate(d->store, d->device)) {
+        loaded = readDrivers(d->store);
+        d->store.close();
+    }
+    d->null = !loaded;
+    if (!loaded) {
         d->jobs->noteResult();
         Q_EMIT error();
         return;
     }
-    d->null = false;
-    QMap<QUuid, VPrinterDriver> loaded = readDrivers(d->store);
-    d->store.close();
-    d->drivers = std::move(loaded);
+    d->drivers = *std::move(loaded);
     d->jobs->noteResult();
     Q_EMIT initialized();
 }
