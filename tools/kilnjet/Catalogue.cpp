@@ -54,18 +54,18 @@ Catalogue::Catalogue(const StoreSettings &settings, Mode mode, Console &console)
     , m_file(settings.path)
 {
     const bool edits = mode == Mode::Edit || mode == Mode::EditOrCreate;
-    const StoreSurvey survey = surveyStore(settings, edits ? Access::Write : Access::Read);
+    m_survey = surveyStore(settings, edits ? Access::Write : Access::Read);
     const bool mayBeAbsent = mode == Mode::EditOrCreate || mode == Mode::ReadIfThere;
-    if (survey.status != VDBStatus::Ok && !(mayBeAbsent && isAbsent(survey.status)))
-        throw storeFailure(survey, settings.path);
-    load(survey, console);
+    if (m_survey.status != VDBStatus::Ok && !(mayBeAbsent && isAbsent(m_survey.status)))
+        throw storeFailure(m_survey, settings.path);
+    load(console);
 }
 
-void Catalogue::load(const StoreSurvey &survey, Console &console)
+void Catalogue::load(Console &console)
 {
     if (m_mode == Mode::Edit || m_mode == Mode::EditOrCreate) {
         m_database = std::make_unique<VPrintersDb>(m_settings.path, m_settings.key);
-    } else if (isAbsent(survey.status)) {
+    } else if (isAbsent(m_survey.status)) {
         // Never loaded, so it stays empty and touches no file.
         m_database = std::make_unique<VPrintersDb>(static_cast<QIODevice *>(nullptr), QString());
         return;
@@ -82,14 +82,13 @@ void Catalogue::load(const StoreSurvey &survey, Console &console)
             throw creationFailure(m_settings.path);
         throw storeFailure(again, m_settings.path);
     }
-    const qsizetype leftOut = survey.count - m_database->count();
+    m_leftOut = m_survey.count - m_database->count();
     const QString hint = u"'kilnjet verify %1' tells more"_s.arg(m_settings.path);
-    if (leftOut > 0) {
-        console.warn(m_settings.path,
-                     u"%1 left out, because it cannot be read"_s.arg(counted(leftOut, u"record"_s)),
-                     hint);
-    } else if (std::any_of(survey.damage.begin(), survey.damage.end(),
-                           [](const auto &part) { return !isHarmless(part.reason); })) {
+    if (m_leftOut > 0) {
+        console.warn(
+            m_settings.path,
+            u"%1 left out, because it cannot be read"_s.arg(counted(m_leftOut, u"record"_s)), hint);
+    } else if (isDamaged(m_survey)) {
         console.warn(m_settings.path, u"parts of the file are damaged"_s, hint);
     }
 }

@@ -40,6 +40,10 @@ public:
     ~Catalogue() = default;
 
     QString path() const { return m_settings.path; }
+    /// What the file showed before it was loaded.
+    const StoreSurvey &survey() const { return m_survey; }
+    /// How many records the file holds that cannot be read.
+    qsizetype leftOut() const { return m_leftOut; }
     VPrintersDb &database() { return *m_database; }
     /// The machines, ordered by name, then by content id.
     QList<VPrinterDriver> machines();
@@ -48,11 +52,13 @@ public:
     void commit();
 
 private:
-    void load(const StoreSurvey &survey, Console &console);
+    void load(Console &console);
 
     StoreSettings m_settings;
     Mode m_mode;
     QFile m_file;
+    StoreSurvey m_survey;
+    qsizetype m_leftOut = 0;
     std::unique_ptr<VPrintersDb> m_database;
 };
 

@@ -68,6 +68,8 @@ struct Command
 
 /// All commands, in the order in which help lists them.
 const QList<Command> &commandTable();
+/// Those of them that look after a database file.
+QList<Command> maintenanceCommands();
 /// The options that every command has.
 const QList<Option> &globalOptions();
 /// What the exit codes usually mean.

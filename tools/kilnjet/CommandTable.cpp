@@ -289,11 +289,13 @@ Command helpCommand()
 
 const QList<Command> &commandTable()
 {
-    static const QList<Command> table{
-        importCommand(), listCommand(),     queryCommand(),  showCommand(),
-        diffCommand(),   exportCommand(),   removeCommand(), renameCommand(),
-        enumsCommand(),  validateCommand(), verifyCommand(), helpCommand(),
-    };
+    static const QList<Command> table =
+        QList<Command>{
+            importCommand(), listCommand(),     queryCommand(),  showCommand(),
+            diffCommand(),   exportCommand(),   removeCommand(), renameCommand(),
+            enumsCommand(),  validateCommand(), verifyCommand(),
+        }
+        + maintenanceCommands() + QList<Command>{helpCommand()};
     return table;
 }
 

@@ -17,6 +17,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QStringDecoder>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -149,6 +150,12 @@ bool isHarmless(VDBDamage::Reason reason)
     return reason == VDBDamage::Reason::Unfinished || reason == VDBDamage::Reason::BadLineEnd;
 }
 
+bool isDamaged(const StoreSurvey &survey)
+{
+    return std::any_of(survey.damage.begin(), survey.damage.end(),
+                       [](const VDBDamage &part) { return !isHarmless(part.reason); });
+}
+
 StoreSurvey surveyStore(const StoreSettings &settings, Access access)
 {
     QFile file(settings.path);
@@ -178,7 +185,8 @@ Failure storeFailure(const StoreSurvey &survey, const QString &path)
     case VDBStatus::DamagedHeader:
         failure.code = ExitCode::Damaged;
         failure.why = u"both copies of its header are damaged"_s;
-        failure.hint = u"take a backup; the file was left as it is"_s;
+        failure.hint =
+            u"'kilnjet recover %1 NEW' carries what is readable into a new file"_s.arg(path);
         break;
     case VDBStatus::NewerFormat:
         failure.code = ExitCode::Damaged;
@@ -221,6 +229,29 @@ StoreSurvey visitStore(const StoreSettings &settings,
         visit(judged(record));
     store.close();
     return survey;
+}
+
+Compaction compactStore(const StoreSettings &settings)
+{
+    QFile file(settings.path);
+    VDBText store;
+    Compaction result;
+    result.survey = openStore(store, file, settings, Access::Write);
+    if (result.survey.status != VDBStatus::Ok)
+        throw storeFailure(result.survey, settings.path);
+    result.sizeBefore = file.size();
+    const bool isDone = store.purge();
+    const QString error = store.errorString();
+    result.sizeAfter = file.size();
+    store.close();
+    if (isDone)
+        return result;
+    throw Failure{.code = ExitCode::Io,
+                  .where = settings.path,
+                  .what = u"cannot compact the database"_s,
+                  .why = error.isEmpty() ? u"the system refused it"_s : error,
+                  .hint = u"nothing is lost; the new file is made beside the old one, so its "
+                          "folder must allow that and have room for it"_s};
 }
 
 bool isStore(const QByteArray &text)

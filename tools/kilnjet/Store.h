@@ -44,6 +44,9 @@ struct StoreSurvey
 /// True for damage that loses nothing of what was stored: what a crash or an editor leaves.
 bool isHarmless(Database::VDBDamage::Reason reason);
 
+/// True when a part of the file is damaged in another way.
+bool isDamaged(const StoreSurvey &survey);
+
 enum class Access
 {
     Read,
@@ -55,6 +58,17 @@ StoreSurvey surveyStore(const StoreSettings &settings, Access access);
 
 /// The Failure that a survey with a status other than Ok means.
 Failure storeFailure(const StoreSurvey &survey, const QString &path);
+
+/// What compacting a file did.
+struct Compaction
+{
+    StoreSurvey survey; ///< The file before.
+    qint64 sizeBefore = 0; ///< In bytes.
+    qint64 sizeAfter = 0;
+};
+
+/// Drops from the file what is no longer live; throws a Failure, and nothing is lost then.
+Compaction compactStore(const StoreSettings &settings);
 
 /// One record as it is stored.
 struct StoredRecord

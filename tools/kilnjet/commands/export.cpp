@@ -6,10 +6,10 @@
 #include "Console.h"
 #include "Invocation.h"
 #include "OutputFile.h"
+#include "Paths.h"
 #include "Selection.h"
 #include "Text.h"
 
-#include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
 
 #include <algorithm>
@@ -17,18 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Kilnjet::Tool {
-
-namespace {
-
-void refuseDatabase(const QString &path, const Catalogue &catalogue)
-{
-    if (QFileInfo(path) == QFileInfo(catalogue.path())) {
-        throw Failure{
-            .code = ExitCode::Usage, .where = path, .what = u"this is the database itself"_s};
-    }
-}
-
-} // namespace
 
 ExitCode runExport(const Invocation &invocation, Console &console)
 {
@@ -47,7 +35,7 @@ ExitCode runExport(const Invocation &invocation, Console &console)
         console.write(array);
         return ExitCode::Done;
     }
-    refuseDatabase(path, catalogue);
+    refuseDatabase(path, catalogue.path());
     writeFile(path, QJsonDocument(array).toJson());
     if (console.isJson()) {
         console.write(QJsonObject{{u"file"_s, path}, {u"records"_s, array.size()}});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MPL-2.0
 
 #include "Catalogue.h"
+#include "ChangePlan.h"
 #include "CheckedFile.h"
 #include "Commands.h"
 #include "Console.h"
@@ -13,14 +14,6 @@ using namespace Qt::StringLiterals;
 namespace Norvane::Kilnjet::Tool {
 
 namespace {
-
-/// What becomes of the records of an import.
-struct Plan
-{
-    QList<VPrinterDriver> added;
-    QList<VPrinterDriver> replaced;
-    QList<VPrinterDriver> unchanged;
-};
 
 /// The records of all files; throws a Failure with all findings when one is refused.
 QList<VPrinterDriver> acceptedRecords(const QStringList &names, Console &console)
@@ -52,41 +45,7 @@ QList<VPrinterDriver> acceptedRecords(const QStringList &names, Console &console
                   .details = {{u"findings"_s, toJsonArray(findings)}}};
 }
 
-Plan planFor(const QList<VPrinterDriver> &drivers, VPrintersDb &database)
-{
-    Plan plan;
-    for (const VPrinterDriver &driver : drivers) {
-        if (!database.contains(driver.dataId()))
-            plan.added.append(driver);
-        else if (database.value(driver).toJsonObject() == driver.toJsonObject())
-            plan.unchanged.append(driver);
-        else
-            plan.replaced.append(driver);
-    }
-    return plan;
-}
-
-QJsonArray toJsonArray(const QList<VPrinterDriver> &drivers)
-{
-    QJsonArray array;
-    for (const VPrinterDriver &driver : drivers) {
-        array.append(
-            QJsonObject{{u"id"_s, driver.dataId().toString()}, {u"name"_s, driver.name()}});
-    }
-    return array;
-}
-
-QString toText(const QString &what, const QList<VPrinterDriver> &drivers)
-{
-    QString text;
-    for (const VPrinterDriver &driver : drivers) {
-        text += u"%1 %2 %3\n"_s.arg(what.leftJustified(9), driver.dataId().toString(),
-                                    printable(quoted(driver.name())));
-    }
-    return text;
-}
-
-void report(const Plan &plan, const QString &path, bool isDryRun, Console &console)
+void report(const ChangePlan &plan, const QString &path, bool isDryRun, Console &console)
 {
     if (console.isJson()) {
         console.write(QJsonObject{{u"added"_s, toJsonArray(plan.added)},
@@ -112,7 +71,7 @@ ExitCode runImport(const Invocation &invocation, Console &console)
     const bool isDryRun = invocation.has("--dry-run"_L1);
     Catalogue catalogue(
         settings, isDryRun ? Catalogue::Mode::ReadIfThere : Catalogue::Mode::EditOrCreate, console);
-    const Plan plan = planFor(drivers, catalogue.database());
+    const ChangePlan plan = ChangePlan::of(drivers, catalogue.database());
     if (!isDryRun) {
         catalogue.database().insert(plan.added + plan.replaced);
         catalogue.commit();
