@@ -38,12 +38,13 @@ private:
 
 QList<QStringList> tst_failures::readingCommands()
 {
-    return {{u"list"_s}, {u"show"_s, u"A"_s}, {u"export"_s}, {u"verify"_s}, {u"export"_s, u"A"_s}};
+    return {{u"list"_s},   {u"show"_s, u"A"_s},   {u"export"_s},
+            {u"verify"_s}, {u"export"_s, u"A"_s}, {u"reindex"_s}};
 }
 
 QList<QStringList> tst_failures::editingCommands()
 {
-    return {{u"remove"_s, u"A"_s}, {u"rename"_s, u"A"_s, u"B"_s}};
+    return {{u"remove"_s, u"A"_s}, {u"rename"_s, u"A"_s, u"B"_s}, {u"purge"_s}};
 }
 
 void tst_failures::aDatabaseThatCannotBeUsed_isExplained_data()

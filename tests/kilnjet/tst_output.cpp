@@ -39,6 +39,7 @@ void tst_output::initTestCase()
 {
     const QJsonArray records{Support::printerJson(u"A"_s), Support::printerJson(u"機械 ١"_s)};
     VERIFY_CODE(m_folder.run({u"import"_s, m_folder.write(u"in.json"_s, records)}), 0);
+    VERIFY_CODE(m_folder.run({u"backup"_s, u"copy.tdb"_s}), 0);
 }
 
 void tst_output::jsonOutput_isJson_data()
@@ -55,6 +56,10 @@ void tst_output::jsonOutput_isJson_data()
     QTest::newRow("enums NAME") << QStringList{u"enums"_s, u"Channel"_s};
     QTest::newRow("validate") << QStringList{u"validate"_s, u"in.json"_s, u"Printers.tdb"_s};
     QTest::newRow("verify") << QStringList{u"verify"_s};
+    QTest::newRow("backup") << QStringList{u"backup"_s, u"copy.tdb"_s, u"--verify"_s};
+    QTest::newRow("restore") << QStringList{u"restore"_s, u"copy.tdb"_s};
+    QTest::newRow("purge") << QStringList{u"purge"_s};
+    QTest::newRow("reindex") << QStringList{u"reindex"_s};
     QTest::newRow("--version") << QStringList{u"--version"_s};
 }
 
