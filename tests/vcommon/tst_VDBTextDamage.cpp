@@ -66,6 +66,7 @@ private Q_SLOTS:
     void oneLostByte_losesOneRecordAtMost();
     void oneAddedByte_losesOneRecordAtMost();
     void headerDamage_isRepairedFromTheOtherCopy();
+    void lostHeaderCopy_costsNoRecord();
     void bothHeadersDamaged_opensForNobody();
     void newerFormat_isRefused();
     void foreignContent_isRefused_data();
@@ -187,6 +188,23 @@ void tst_VDBTextDamage::headerDamage_isRepairedFromTheOtherCopy()
         QVERIFY(seen.hears(Reason::BadHeader));
         QCOMPARE(readStore(bytes, u"wrong"_s).status, VDBStatus::WrongKey);
     }
+}
+
+// As when a person removes repeated lines.
+void tst_VDBTextDamage::lostHeaderCopy_costsNoRecord()
+{
+    QByteArray bytes = sample();
+    bytes.remove(0, bytes.indexOf('\n') + 1);
+    QBuffer buffer(&bytes);
+    const Seen seen = readStore(&buffer);
+    QCOMPARE(seen.sound, kWhole);
+    QVERIFY(seen.hears(Reason::BadHeader));
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&buffer));
+    QVERIFY(store.purge());
+    store.close();
+    QCOMPARE(readStore(&buffer).sound, kWhole);
 }
 
 void tst_VDBTextDamage::bothHeadersDamaged_opensForNobody()

@@ -163,8 +163,12 @@ void Scanner::readHeaderCopies(const HeaderPlace &place)
     if (second.startsWith(m_contents.headerLine)) {
         endLine(m_position + m_contents.headerLine.size());
     } else if (m_position < m_bytes.size()) {
-        report(Reason::BadHeader, m_position, second.size(), m_line);
-        endLine(m_position + second.size());
+        // A copy that is gone must not cost the line that stands in its place.
+        const bool isGone = second.isEmpty() || second == QByteArrayView(".")
+            || second == QByteArrayView("~") || splitLine(second);
+        report(Reason::BadHeader, m_position, isGone ? 0 : second.size(), m_line);
+        if (!isGone)
+            endLine(m_position + second.size());
     }
 }
 
