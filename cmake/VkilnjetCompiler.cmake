@@ -28,6 +28,12 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
             $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
         target_link_options(vkilnjet_compiler INTERFACE "-fsanitize=${VKILNJET_SANITIZE}")
     endif()
+    if(VKILNJET_BUILD_FUZZERS)
+        # What the fuzzers steer by: which branches an input took. Tracing comparisons besides would
+        # halve the speed, and the mutators know the words that matter.
+        target_compile_options(vkilnjet_compiler INTERFACE
+            -fsanitize-coverage=inline-8bit-counters,pc-table)
+    endif()
 endif()
 if(NOT VKILNJET_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang" AND NOT APPLE AND NOT WIN32)
     target_link_options(vkilnjet_compiler INTERFACE -Wl,--no-undefined)
