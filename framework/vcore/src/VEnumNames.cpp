@@ -23,6 +23,15 @@ void VEnumNames::add(qint64 number, const QString &name)
     const auto known = m_byName.constFind(name);
     if (known == m_byName.constEnd() || number < *known)
         m_byName.insert(name, number);
+    // Such names cannot be read: a text is trimmed, and a list of flags split at its commas.
+    if (name == name.trimmed() && !name.contains(u','))
+        m_byUtf8.insert_or_assign(name.toStdString(), m_byName.value(name));
+}
+
+std::optional<qint64> VEnumNames::find(std::string_view name) const
+{
+    const auto known = m_byUtf8.find(name);
+    return known == m_byUtf8.end() ? std::nullopt : std::optional(known->second);
 }
 
 std::optional<qint64> VEnumNames::find(const QString &name, Qt::CaseSensitivity cs) const

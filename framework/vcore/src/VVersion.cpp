@@ -3,9 +3,7 @@
 
 #include <vcore/VVersion.h>
 
-#include <QtCore/QStringList>
-
-using namespace Qt::StringLiterals;
+#include <QtCore/QByteArray>
 
 namespace Norvane {
 
@@ -29,18 +27,24 @@ int numberFromText(QStringView text)
 
 QString VVersion::toString() const
 {
-    return u"%1.%2.%3"_s.arg(majorNumber()).arg(minorNumber()).arg(patchNumber());
+    QByteArray text = QByteArray::number(majorNumber());
+    text.append('.').append(QByteArray::number(minorNumber()));
+    text.append('.').append(QByteArray::number(patchNumber()));
+    return QString::fromLatin1(text);
 }
 
 VVersion VVersion::fromString(const QString &text, bool *ok)
 {
+    const qsizetype first = text.indexOf(u'.');
+    const qsizetype second = text.indexOf(u'.', first + 1);
+    const QStringView view(text);
     int numbers[3] = {-1, -1, -1};
-    const QList<QStringView> parts = QStringView(text).split(u'.');
-    bool good = parts.size() == 3;
-    for (int i = 0; good && i < 3; ++i) {
-        numbers[i] = numberFromText(parts.at(i));
-        good = numbers[i] >= 0;
+    if (first >= 0 && second >= 0) {
+        numbers[0] = numberFromText(view.first(first));
+        numbers[1] = numberFromText(view.sliced(first + 1, second - first - 1));
+        numbers[2] = numberFromText(view.sliced(second + 1));
     }
+    const bool good = numbers[0] >= 0 && numbers[1] >= 0 && numbers[2] >= 0;
     if (ok != nullptr)
         *ok = good;
     return good ? VVersion(numbers[0], numbers[1], numbers[2]) : VVersion();

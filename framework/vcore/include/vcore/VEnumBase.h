@@ -5,6 +5,7 @@
 
 #include <vcore/IVEnum.h>
 #include <vcore/VEnumFlags.h>
+#include <vcore/VJsonText.h>
 
 #include <QtCore/QLatin1StringView>
 #include <QtCore/QVariant>
@@ -54,6 +55,16 @@ public:
     {
         return static_cast<E>(fromString(text, U(0), Qt::CaseSensitive, nullptr));
     }
+    /// The same for a text in UTF-8; one that is a single name needs no QString.
+    E valueOf(QUtf8StringView text) const
+    {
+        const std::optional<qint64> number =
+            names().find(std::string_view(text.data(), std::size_t(text.size())));
+        return number ? static_cast<E>(U(*number)) : valueOf(text.toString());
+    }
+    /// The value that a JSON string names, as above; any other JSON value is the value 0.
+    E valueOf(const QJsonValue &value) const { return valueOf(value.toString()); }
+    E valueOf(const VJsonTextValue &value) const { return valueOf(value.utf8()); }
 
 protected:
     /// The text of the `E` in `value`, read in place: a conversion would go through the meta-type

@@ -11,7 +11,11 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <functional>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 
 namespace Norvane {
 
@@ -32,6 +36,9 @@ public:
     QStringList names(qint64 number) const { return m_names.value(number); }
     /// The number that carries `name`; the smallest, should several do.
     std::optional<qint64> find(const QString &name, Qt::CaseSensitivity cs) const;
+    /// The number that fromString() and flagsFromString() read in the UTF-8 text `name`, if it is
+    /// one name and nothing else.
+    std::optional<qint64> find(std::string_view name) const;
 
     /// The name of `number`; without one, the number as `locale` writes it.
     QString toString(qint64 number, const QLocale &locale) const;
@@ -50,6 +57,13 @@ private:
     QList<qint64> m_numbers;
     QHash<qint64, QStringList> m_names;
     QHash<QString, qint64> m_byName;
+
+    /// Makes look-ups possible without a string.
+    struct Hash : std::hash<std::string_view>
+    {
+        using is_transparent = void;
+    };
+    std::unordered_map<std::string, qint64, Hash, std::equal_to<>> m_byUtf8;
 };
 
 } // namespace Norvane

@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <vcore/Export.h>
+
+#include <QtCore/QByteArrayView>
+#include <QtCore/QJsonValue>
+#include <QtCore/QString>
+#include <QtCore/QUtf8StringView>
+#include <QtCore/QUuid>
+#include <QtCore/QVarLengthArray>
+
+
+namespace Norvane {
+
+class VJsonTextArray;
+class VJsonTextObject;
+
+/// JSON text whose structure is known, so that its values can be read straight from the bytes.
+///
+/// A QJsonDocument builds a tree first, which costs more than everything else that reading a record
+/// takes. This reader takes plain text only and refuses the rest, valid or not: what it accepts,
+/// QJsonDocument accepts too and gives the same values; what it refuses is for QJsonDocument to
+/// judge. Plain means: an object, no escapes in strings, no key twice in an object, numbers of at
+/// most 15 digits without an exponent, and little depth.
+///
+/// Values, objects and arrays are views, with the operations of their Qt namesakes: they are valid
+/// as long as this object is not parsed into again and its bytes live. The object is large, and
+/// meant to live on the stack.
+/// Threads: one may parse; many may read then.
+class VCORE_EXPORT VJsonText
+{
+public:
+    /// Takes the structure of `bytes`; false when they are not plain.
+    [[nodiscard]] bool parse(QByteArrayView bytes);
+
+    /// The object that the text is.
+    VJsonTextObject object() const;
+    /// Whether a key of any object in the text is `key`.
+    bool hasKey(QLatin1StringView key) const;
+
+private:
+    friend class VJsonTextValue;
+    friend class VJsonTextObject;
+    friend class VJsonTextArray;
+    class Parser;
+
+    enum class Kind : quint8
+    {
+        Object,
+        Array,
+        Key,
+        String,
+        Number,
+        True,
+        False,
+        Null
+    };
+
+    /// A value or a key: its bytes (of strings, what stands between the quotes), and the token that
+    /// follows it and what it contains.
+    struct Token
+    {
+        quint32 begin;
+        quint32 end;
+        quint32 next;
+        Kind kind;
+    };
+
+    /// Room for a usual record without an allocation.
+    using Tokens = QVarLengthArray<Token, 512>;
+
+    const char *m_bytes = nullptr;
+    Tokens m_tokens;
+};
+
+/// A value in a VJsonText; undefined when there is none.
+class VCORE_EXPORT VJsonTextValue
+{
+public:
+    VJsonTextValue() = default;
+
+    bool isUndefined() const { return m_text == nullptr; }
+    bool isString() const { return is(VJsonText::Kind::String); }
+    bool isObject() const { return is(VJsonText::Kind::Object); }
+    bool isArray() const { return is(VJsonText::Kind::Array); }
+
+    /// The bytes of a string; empty for any other value.
+    QUtf8StringView utf8() const;
+    QString toString() const;
+    bool toBool(bool fallback = false) const;
+    int toInt(int fallback = 0) const;
+    double toDouble(double fallback = 0.0) const;
+    VJsonTextObject toObject() const;
+    VJsonTextArray toArray() const;
+    /// The same as a tree of values.
+    QJsonValue toJsonValue() const;
+
+private:
+    friend class VJsonText;
+    friend class VJsonTextObject;
+    friend class VJsonTextArray;
+    VJsonTextValue(const VJsonText *text, quint32 token)
+        : m_text(text)
+        , m_token(token)
+    { }
+    bool is(VJsonText::Kind kind) const { return m_text != nullptr && token().kind == kind; }
+    const VJsonText::Token &token() const { return m_text->m_tokens[m_token]; }
+    QByteArrayView bytes() const;
+
+    const VJsonText *m_text = nullptr;
+    quint32 m_token = 0;
+};
+
+/// An object in a VJsonText; empty when the value was none.
+class VCORE_EXPORT VJsonTextObject
+{
+public:
+    VJsonTextObject() = default;
+
+    /// The value of `key`; undefined when there is none.
+    VJsonTextValue value(QLatin1StringView key) const;
+    /// The text that the object is part of; it must not be an empty object of no text.
+    const VJsonText &text() const { return *m_value.m_text; }
+    /// The same as a tree of values.
+    QJsonObject toJsonObject() const;
+
+private:
+    friend class VJsonText;
+    friend class VJsonTextValue;
+    explicit VJsonTextObject(const VJsonTextValue &value)
+        : m_value(value)
+    { }
+
+    VJsonTextValue m_value;
+};
+
+/// An array in a VJsonText; empty when the value was none.
+class VCORE_EXPORT VJsonTextArray
+{
+public:
+    class Iterator
+    {
+    public:
+        VJsonTextValue operator*() const { return m_value; }
+        Iterator &operator++()
+        {
+            m_value.m_token = m_value.token().next;
+            return *this;
+        }
+        bool operator==(const Iterator &other) const
+        {
+            return m_value.m_token == other.m_value.m_token;
+        }
+
+    private:
+        friend class VJsonTextArray;
+        explicit Iterator(const VJsonTextValue &value)
+            : m_value(value)
+        { }
+        VJsonTextValue m_value;
+    };
+
+    VJsonTextArray() = default;
+
+    Iterator begin() const;
+    Iterator end() const;
+    bool isEmpty() const { return begin() == end(); }
+    /// The same as a tree of values.
+    QJsonArray toJsonArray() const;
+
+private:
+    friend class VJsonTextValue;
+    explicit VJsonTextArray(const VJsonTextValue &value)
+        : m_value(value)
+    { }
+
+    VJsonTextValue m_value;
+};
+
+/// The UUID that a string value spells; null for any other value.
+inline QUuid uuidFromJson(const QJsonValue &value)
+{
+    return QUuid::fromString(value.toString());
+}
+inline QUuid uuidFromJson(const VJsonTextValue &value)
+{
+    return QUuid::fromString(value.utf8());
+}
+
+} // namespace Norvane

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <vcore/Export.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QLatin1StringView>
+#include <QtCore/QString>
+
+namespace Norvane {
+
+/// Writes JSON text as QJsonDocument does in its compact form, byte for byte, without a tree.
+///
+/// A class writes its fields with a function over any writer, so that one function serves the text
+/// and, through VJsonTreeWriter, the tree. Keys must come in ascending order, which is the order of
+/// a QJsonObject.
+/// Threads: one at a time.
+class VCORE_EXPORT VJsonTextWriter
+{
+public:
+    /// The text so far.
+    const QByteArray &text() const { return m_text; }
+
+    /// Writes an object or an array whose content `fill` writes to the writer that it is given.
+    template<typename Fill>
+    void object(Fill fill)
+    {
+        open('{');
+        fill(*this);
+        close('}');
+    }
+    template<typename Fill>
+    void object(QLatin1StringView key, Fill fill)
+    {
+        writeKey(key);
+        object(fill);
+    }
+    template<typename Fill>
+    void array(QLatin1StringView key, Fill fill)
+    {
+        writeKey(key);
+        open('[');
+        fill(*this);
+        close(']');
+    }
+    /// Writes the member `key` of an object.
+    template<typename Value>
+    void insert(QLatin1StringView key, const Value &value)
+    {
+        writeKey(key);
+        append(value);
+    }
+    /// Writes an element of an array.
+    void append(const QString &value);
+    void append(bool value);
+    void append(int value);
+    void append(double value);
+    void append(const QJsonArray &value);
+    void append(const QJsonObject &value);
+    /// Writes a string of plain ASCII characters that need no escape.
+    void appendPlain(const QByteArray &value);
+    void insertPlain(QLatin1StringView key, const QByteArray &value)
+    {
+        writeKey(key);
+        appendPlain(value);
+    }
+
+private:
+    void open(char bracket);
+    void close(char bracket);
+    void separate();
+    void writeKey(QLatin1StringView key);
+
+    QByteArray m_text;
+    bool m_needsComma = false;
+};
+
+/// Writes the same as a tree of values.
+class VJsonTreeWriter
+{
+public:
+    /// What was written with a key, and what without one.
+    const QJsonObject &members() const { return m_members; }
+    const QJsonArray &elements() const { return m_elements; }
+
+    template<typename Fill>
+    void object(Fill fill)
+    {
+        m_elements.append(filled(fill).m_members);
+    }
+    template<typename Fill>
+    void object(QLatin1StringView key, Fill fill)
+    {
+        m_members.insert(key, filled(fill).m_members);
+    }
+    template<typename Fill>
+    void array(QLatin1StringView key, Fill fill)
+    {
+        m_members.insert(key, filled(fill).m_elements);
+    }
+    void insert(QLatin1StringView key, const QJsonValue &value) { m_members.insert(key, value); }
+    void append(const QJsonValue &value) { m_elements.append(value); }
+    void insertPlain(QLatin1StringView key, const QByteArray &value)
+    {
+        m_members.insert(key, QString::fromLatin1(value));
+    }
+
+private:
+    template<typename Fill>
+    static VJsonTreeWriter filled(Fill fill)
+    {
+        VJsonTreeWriter writer;
+        fill(writer);
+        return writer;
+    }
+
+    QJsonObject m_members;
+    QJsonArray m_elements;
+};
+
+} // namespace Norvane
