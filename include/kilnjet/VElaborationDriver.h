@@ -15,6 +15,9 @@
 
 namespace Norvane::Kilnjet {
 
+template<typename Record>
+class RecordCodec;
+
 /// One elaboration (screening, halftoning) that can be applied to an image before it is printed.
 ///
 /// | JSON key                 | Accessor                  | JSON type        | Fallback |
@@ -85,8 +88,17 @@ protected:
     bool setInnerJsonObject(const QJsonObject &object) override;
     bool innerIsValid() const override;
     bool innerIsEmpty() const override;
+    const Hardware::VDeviceConfigCodec *codec() const override;
 
 private:
+    template<typename Record>
+    friend class RecordCodec;
+
+    template<typename Object>
+    void readJson(const Object &object);
+    template<typename Writer>
+    void writeJson(Writer &object) const;
+
     bool m_allowOnlineElaboration = false;
     bool m_prefered = false;
     ElaborationType m_elaborationType = ElaborationType::None;

@@ -12,6 +12,9 @@
 
 namespace Norvane::Kilnjet {
 
+template<typename Record>
+class RecordCodec;
+
 /// One print unit of a decoration printer: the inks it carries, and what may be chosen freely.
 ///
 /// | JSON key                     | Accessor                     | JSON type        | Fallback |
@@ -64,8 +67,17 @@ protected:
     bool setInnerJsonObject(const QJsonObject &object) override;
     QUuid innerDataId(bool *ok) const override;
     bool innerIsEmpty() const override;
+    const Hardware::VDeviceConfigCodec *codec() const override;
 
 private:
+    template<typename Record>
+    friend class RecordCodec;
+
+    template<typename Object>
+    void readJson(const Object &object);
+    template<typename Writer>
+    void writeJson(Writer &object) const;
+
     QList<Channel> m_channels;
     bool m_customHorizontalResolution = false;
     bool m_customVerticalResolution = false;

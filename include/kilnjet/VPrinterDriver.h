@@ -118,12 +118,16 @@ protected:
     bool setInnerJsonObject(const QJsonObject &object) override;
     QUuid innerDataId(bool *ok) const override;
     bool innerIsValid() const override;
+    const Hardware::VDeviceConfigCodec *codec() const override;
 
 private:
+    class Codec;
+
+    const VPrinterDriverPrivate &fields() const;
     VPrinterDriverPrivate &own();
     void setSvgIcon(const QByteArray &svg);
 
-    QExplicitlySharedDataPointer<VPrinterDriverPrivate> d;
+    mutable QExplicitlySharedDataPointer<VPrinterDriverPrivate> d; ///< See decodeNow().
 };
 
 } // namespace Norvane::Kilnjet

@@ -8,63 +8,30 @@
 #include "drivers/HostIconSource.h"
 #include "drivers/IconPixels.h"
 
-#include <QtCore/QJsonObject>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Kilnjet {
 
-namespace {
-
-constexpr QLatin1StringView kFormat{"format"};
-constexpr QLatin1StringView kData{"data"};
-
-} // namespace
-
-DriverIcon::DriverIcon(std::shared_ptr<const IconSource> source)
-    : m_source(std::move(source))
-{ }
-
 DriverIcon::DriverIcon(const QIcon &icon)
     : m_source(icon.isNull() ? nullptr : std::make_shared<HostIconSource>(icon))
 { }
 
-DriverIcon DriverIcon::fromJson(const QJsonArray &array)
-{
-    QList<EncodedImage> images;
-    for (const QJsonValue &element : array) {
-        const QJsonObject object = element.toObject();
-        const QString format = object.value(kFormat).toString();
-        const QByteArray data = QByteArray::fromBase64(object.value(kData).toString().toLatin1());
-        if (!data.isEmpty() && !format.isEmpty())
-            images.append({format, data});
-    }
-    if (images.isEmpty())
-        return {};
-    return DriverIcon(std::make_shared<EncodedIconSource>(images));
-}
+DriverIcon::DriverIcon(const QList<EncodedImage> &images)
+    : m_source(images.isEmpty() ? nullptr : std::make_shared<EncodedIconSource>(images))
+{ }
 
 DriverIcon DriverIcon::fromFile(const QString &path)
 {
     if (isGuiRunning())
         return DriverIcon(QIcon(path));
-    const QList<EncodedImage> images = encodedImagesFromFile(path);
-    if (images.isEmpty())
-        return {};
-    return DriverIcon(std::make_shared<EncodedIconSource>(images));
+    return DriverIcon(encodedImagesFromFile(path));
 }
 
-QJsonArray DriverIcon::toJson() const
+QList<EncodedImage> DriverIcon::encoded() const
 {
-    QJsonArray array;
-    const QList<EncodedImage> images = m_source ? m_source->encoded() : QList<EncodedImage>();
-    for (const EncodedImage &image : images) {
-        array.append(QJsonObject{{kFormat, image.format},
-                                 {kData, QString::fromLatin1(image.data.toBase64())}});
-    }
-    return array;
+    return m_source ? m_source->encoded() : QList<EncodedImage>();
 }
 
 QIcon DriverIcon::icon() const

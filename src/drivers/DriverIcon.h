@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QJsonArray>
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtGui/QIcon>
 
@@ -12,6 +12,7 @@
 namespace Norvane::Kilnjet {
 
 class IconSource;
+struct EncodedImage;
 
 /// The raster icon of a driver, whether it came as encoded images or as a QIcon of the host.
 ///
@@ -25,21 +26,19 @@ public:
     /// No icon.
     DriverIcon() = default;
     explicit DriverIcon(const QIcon &icon);
-    /// The icon that the array of a driver's JSON holds.
-    static DriverIcon fromJson(const QJsonArray &array);
+    /// The icon of these images; no icon without any.
+    explicit DriverIcon(const QList<EncodedImage> &images);
     /// The icon in the image file `path`; no icon if there is none.
     static DriverIcon fromFile(const QString &path);
 
-    /// An object for each size, with the image as PNG; empty when there is none.
-    QJsonArray toJson() const;
+    /// The images to be stored: one of each size, as PNG.
+    QList<EncodedImage> encoded() const;
     /// The icon; empty in a process without a GUI.
     QIcon icon() const;
     /// Whether `other` shows the same images at the sizes that this icon has.
     bool matches(const DriverIcon &other) const;
 
 private:
-    explicit DriverIcon(std::shared_ptr<const IconSource> source);
-
     std::shared_ptr<const IconSource> m_source; ///< Null: no icon.
 };
 

@@ -17,8 +17,25 @@ namespace Norvane::Kilnjet {
 /// An encoded image and the name of its format.
 struct EncodedImage
 {
+    static constexpr QLatin1StringView kData{"data"};
+    static constexpr QLatin1StringView kFormat{"format"};
+
     QString format;
     QByteArray data;
+
+    /// An element of the array "icon" of a driver's JSON; without data when it is malformed.
+    template<typename Object>
+    static EncodedImage fromJson(const Object &object)
+    {
+        const QString data = object.value(kData).toString();
+        return {object.value(kFormat).toString(), QByteArray::fromBase64(data.toLatin1())};
+    }
+    template<typename Writer>
+    void writeJson(Writer &object) const
+    {
+        object.insertPlain(kData, data.toBase64());
+        object.insert(kFormat, format);
+    }
 
     bool operator==(const EncodedImage &other) const = default;
 };

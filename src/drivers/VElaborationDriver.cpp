@@ -3,6 +3,7 @@
 
 #include <kilnjet/VElaborationDriver.h>
 
+#include "drivers/RecordCodec.h"
 #include "enums/ElaborationType_T.h"
 #include "enums/LevelManagement_T.h"
 
@@ -45,12 +46,11 @@ bool sameBits(const QList<double> &a, const QList<double> &b)
 }
 
 /// The elements of a JSON array, each as `convert` makes it from its value.
-template<typename Element, typename Convert>
-QList<Element> listFromJson(const QJsonValue &array, Convert convert)
+template<typename Element, typename Array, typename Convert>
+QList<Element> listFromJson(const Array &array, Convert convert)
 {
     QList<Element> list;
-    const QJsonArray values = array.toArray();
-    for (const QJsonValue &value : values)
+    for (const auto &value : array)
         list.append(convert(value));
     return list;
 }
@@ -171,46 +171,63 @@ void VElaborationDriver::setResolutionList(const QList<VResolution> &list)
     m_resolutionList = list;
 }
 
-QJsonObject VElaborationDriver::toInnerJsonObject() const
+template<typename Writer>
+void VElaborationDriver::writeJson(Writer &object) const
 {
-    QJsonArray scrollRatios;
-    for (const double ratio : m_scrollRatioList)
-        scrollRatios.append(ratio);
-    QJsonArray resolutions;
-    for (const VResolution &resolution : m_resolutionList)
-        resolutions.append(resolution.toJsonObject());
-    QJsonArray levelManagements;
-    for (const LevelManagement mode : m_levelManagementList)
-        levelManagements.append(LevelManagement_T::instance().textOf(mode));
-    return {{kScrollRatioList, scrollRatios},
-            {kResolutionList, resolutions},
-            {kLevelManagementList, levelManagements},
-            {kElaborationType, ElaborationType_T::instance().textOf(m_elaborationType)},
-            {kAllowOnlineElaboration, m_allowOnlineElaboration},
-            {kPrefered, m_prefered},
-            {kMagnificationMin, m_magnification.first},
-            {kMagnificationMax, m_magnification.second}};
+    object.insert(kAllowOnlineElaboration, m_allowOnlineElaboration);
+    object.insert(kElaborationType, ElaborationType_T::instance().textOf(m_elaborationType));
+    object.array(kLevelManagementList, [this](auto &array) {
+        for (const LevelManagement mode : m_levelManagementList)
+            array.append(LevelManagement_T::instance().textOf(mode));
+    });
+    object.insert(kMagnificationMax, m_magnification.second);
+    object.insert(kMagnificationMin, m_magnification.first);
+    object.insert(kPrefered, m_prefered);
+    object.array(kResolutionList, [this](auto &array) {
+        for (const VResolution &resolution : m_resolutionList)
+            array.object([&](auto &element) { resolution.writeJson(element); });
+    });
+    object.array(kScrollRatioList, [this](auto &array) {
+        for (const double ratio : m_scrollRatioList)
+            array.append(ratio);
+    });
 }
 
-bool VElaborationDriver::setInnerJsonObject(const QJsonObject &object)
+template<typename Object>
+void VElaborationDriver::readJson(const Object &object)
 {
-    m_scrollRatioList = listFromJson<double>(
-        object.value(kScrollRatioList), [](const QJsonValue &value) { return value.toDouble(); });
+    m_scrollRatioList = listFromJson<double>(object.value(kScrollRatioList).toArray(),
+                                             [](const auto &value) { return value.toDouble(); });
     m_resolutionList =
-        listFromJson<VResolution>(object.value(kResolutionList), [](const QJsonValue &value) {
-            return VResolution::fromJsonObject(value.toObject());
+        listFromJson<VResolution>(object.value(kResolutionList).toArray(), [](const auto &value) {
+            return VResolution::fromJson(value.toObject());
         });
     m_levelManagementList = listFromJson<LevelManagement>(
-        object.value(kLevelManagementList), [](const QJsonValue &value) {
-            return LevelManagement_T::instance().valueOf(value.toString());
-        });
-    m_elaborationType =
-        ElaborationType_T::instance().valueOf(object.value(kElaborationType).toString());
+        object.value(kLevelManagementList).toArray(),
+        [](const auto &value) { return LevelManagement_T::instance().valueOf(value); });
+    m_elaborationType = ElaborationType_T::instance().valueOf(object.value(kElaborationType));
     m_allowOnlineElaboration = object.value(kAllowOnlineElaboration).toBool();
     m_prefered = object.value(kPrefered).toBool();
     const double maximum = object.value(kMagnificationMax).toDouble();
     m_magnification = VMagnificationLimits(object.value(kMagnificationMin).toDouble(), maximum);
+}
+
+QJsonObject VElaborationDriver::toInnerJsonObject() const
+{
+    VJsonTreeWriter writer;
+    writeJson(writer);
+    return writer.members();
+}
+
+bool VElaborationDriver::setInnerJsonObject(const QJsonObject &object)
+{
+    readJson(object);
     return true;
+}
+
+const Hardware::VDeviceConfigCodec *VElaborationDriver::codec() const
+{
+    return codecFor<RecordCodec<VElaborationDriver>>(*this);
 }
 
 bool VElaborationDriver::innerIsValid() const

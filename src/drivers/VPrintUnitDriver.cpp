@@ -3,6 +3,7 @@
 
 #include <kilnjet/VPrintUnitDriver.h>
 
+#include "drivers/RecordCodec.h"
 #include "enums/ChannelV100Sort_T.h"
 #include "enums/Channel_T.h"
 
@@ -119,26 +120,45 @@ void VPrintUnitDriver::setCustomVerticalResolution(bool custom)
     m_customVerticalResolution = custom;
 }
 
+template<typename Writer>
+void VPrintUnitDriver::writeJson(Writer &object) const
+{
+    object.array(kChannels, [this](auto &array) {
+        for (const Channel channel : m_channels)
+            array.append(Channel_T::instance().textOf(channel));
+    });
+    object.insert(kCustomHorizontalResolution, m_customHorizontalResolution);
+    object.insert(kCustomVerticalResolution, m_customVerticalResolution);
+}
+
+template<typename Object>
+void VPrintUnitDriver::readJson(const Object &object)
+{
+    QList<Channel> channels;
+    const auto names = object.value(kChannels).toArray();
+    for (const auto &name : names)
+        channels.append(Channel_T::instance().valueOf(name));
+    m_channels = channels;
+    m_customVerticalResolution = object.value(kCustomVerticalResolution).toBool();
+    m_customHorizontalResolution = object.value(kCustomHorizontalResolution).toBool();
+}
+
 QJsonObject VPrintUnitDriver::toInnerJsonObject() const
 {
-    QJsonArray channels;
-    for (const Channel channel : m_channels)
-        channels.append(Channel_T::instance().textOf(channel));
-    return {{kChannels, channels},
-            {kCustomVerticalResolution, m_customVerticalResolution},
-            {kCustomHorizontalResolution, m_customHorizontalResolution}};
+    VJsonTreeWriter writer;
+    writeJson(writer);
+    return writer.members();
 }
 
 bool VPrintUnitDriver::setInnerJsonObject(const QJsonObject &object)
 {
-    QList<Channel> channels;
-    const QJsonArray names = object.value(kChannels).toArray();
-    for (const QJsonValue &name : names)
-        channels.append(Channel_T::instance().valueOf(name.toString()));
-    m_channels = channels;
-    m_customVerticalResolution = object.value(kCustomVerticalResolution).toBool();
-    m_customHorizontalResolution = object.value(kCustomHorizontalResolution).toBool();
+    readJson(object);
     return true;
+}
+
+const Hardware::VDeviceConfigCodec *VPrintUnitDriver::codec() const
+{
+    return codecFor<RecordCodec<VPrintUnitDriver>>(*this);
 }
 
 QUuid VPrintUnitDriver::innerDataId(bool *ok) const

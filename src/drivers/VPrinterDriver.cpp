@@ -48,8 +48,15 @@ VPrinterDriver &VPrinterDriver::operator=(const VPrinterDriver &other) = default
 
 VPrinterDriver::~VPrinterDriver() = default;
 
+const VPrinterDriverPrivate &VPrinterDriver::fields() const
+{
+    decodeNow();
+    return *d;
+}
+
 VPrinterDriverPrivate &VPrinterDriver::own()
 {
+    decodeNow();
     // Acquire: a copy on another thread that has just let go has also finished reading.
     if (d->ref.loadAcquire() != 1)
         d.reset(new VPrinterDriverPrivate(*d));
@@ -60,7 +67,9 @@ bool VPrinterDriver::operator==(const VPrinterDriver &other) const
 {
     if (this == &other)
         return true;
-    return (d == other.d || d->equals(*other.d)) && VDeviceConfig::operator==(other);
+    const VPrinterDriverPrivate &own = fields();
+    const VPrinterDriverPrivate &others = other.fields();
+    return (&own == &others || own.equals(others)) && VDeviceConfig::operator==(other);
 }
 
 bool VPrinterDriverPrivate::equals(const VPrinterDriverPrivate &other) const
@@ -90,7 +99,7 @@ bool VPrinterDriver::equalsTo(const Interfaces::IEquatable *other) const
 
 PrinterClass VPrinterDriver::printerClass() const
 {
-    return d->printerClass;
+    return fields().printerClass;
 }
 
 void VPrinterDriver::setPrinterClass(const PrinterClass &printerClass)
@@ -100,7 +109,7 @@ void VPrinterDriver::setPrinterClass(const PrinterClass &printerClass)
 
 PrinterFacesMode VPrinterDriver::facesMode() const
 {
-    return d->facesMode;
+    return fields().facesMode;
 }
 
 void VPrinterDriver::setFacesMode(const PrinterFacesMode &mode)
@@ -110,7 +119,7 @@ void VPrinterDriver::setFacesMode(const PrinterFacesMode &mode)
 
 PrinterFileCompression VPrinterDriver::fileCompression() const
 {
-    return d->fileCompression;
+    return fields().fileCompression;
 }
 
 void VPrinterDriver::setFileCompression(const PrinterFileCompression &compression)
@@ -120,7 +129,7 @@ void VPrinterDriver::setFileCompression(const PrinterFileCompression &compressio
 
 PrinterFileProtection VPrinterDriver::fileProtection() const
 {
-    return d->fileProtection;
+    return fields().fileProtection;
 }
 
 void VPrinterDriver::setFileProtection(const PrinterFileProtection &protection)
@@ -130,7 +139,7 @@ void VPrinterDriver::setFileProtection(const PrinterFileProtection &protection)
 
 int VPrinterDriver::maximumFaces() const
 {
-    return d->maximumFaces;
+    return fields().maximumFaces;
 }
 
 void VPrinterDriver::setMaximumFaces(int faces)
@@ -140,7 +149,7 @@ void VPrinterDriver::setMaximumFaces(int faces)
 
 qint64 VPrinterDriver::maximumImageBytes() const
 {
-    return d->maximumImageBytes;
+    return fields().maximumImageBytes;
 }
 
 void VPrinterDriver::setMaximumImageBytes(qint64 bytes)
@@ -150,7 +159,7 @@ void VPrinterDriver::setMaximumImageBytes(qint64 bytes)
 
 bool VPrinterDriver::onlineElaboration() const
 {
-    return d->onlineElaboration;
+    return fields().onlineElaboration;
 }
 
 void VPrinterDriver::setOnlineElaboration(bool online)
@@ -160,7 +169,7 @@ void VPrinterDriver::setOnlineElaboration(bool online)
 
 bool VPrinterDriver::onlineLinearizations() const
 {
-    return d->onlineLinearizations;
+    return fields().onlineLinearizations;
 }
 
 void VPrinterDriver::setOnlineLinearizations(bool online)
@@ -170,7 +179,7 @@ void VPrinterDriver::setOnlineLinearizations(bool online)
 
 bool VPrinterDriver::experimental() const
 {
-    return d->experimental;
+    return fields().experimental;
 }
 
 void VPrinterDriver::setExperimental(bool experimental)
@@ -180,7 +189,7 @@ void VPrinterDriver::setExperimental(bool experimental)
 
 QIcon VPrinterDriver::icon() const
 {
-    if (d->svgIcon.isEmpty())
+    if (fields().svgIcon.isEmpty())
         return d->icon.icon();
     QTemporaryFile file;
     if (!isGuiRunning() || !file.open() || file.write(d->svgIcon) != d->svgIcon.size())
@@ -213,24 +222,18 @@ void VPrinterDriver::setSvgIcon(const QByteArray &svg)
     own().icon = DriverIcon();
 }
 
-QJsonObject VPrinterDriver::toInnerJsonObject() const
-{
-    return d->toJson();
-}
-
-bool VPrinterDriver::setInnerJsonObject(const QJsonObject &object)
-{
-    own().readJson(object);
-    return true;
-}
-
 QUuid VPrinterDriver::innerDataId(bool *ok) const
 {
     Q_UNUSED(ok) // Every driver has a content id.
-    const QStringList texts{PrinterFacesMode_T::instance().textOf(d->facesMode),
-                            PrinterClass_T::instance().textOf(d->printerClass),
-                            VConvert::toString(d->maximumFaces, QLocale(QLocale::C))};
-    return QUuid::createUuidV5(deviceId(), texts.join(u';'));
+    return QUuid::createUuidV5(deviceId(), fields().contentText());
+}
+
+QString VPrinterDriverPrivate::contentText() const
+{
+    const QStringList texts{PrinterFacesMode_T::instance().textOf(facesMode),
+                            PrinterClass_T::instance().textOf(printerClass),
+                            VConvert::toString(maximumFaces, QLocale(QLocale::C))};
+    return texts.join(u';');
 }
 
 bool VPrinterDriver::innerIsValid() const

@@ -5,6 +5,8 @@
 
 #include "VPrinterDriver_p.h"
 
+#include "drivers/IconSource.h"
+#include "drivers/RecordCodec.h"
 #include "enums/PrinterClass_T.h"
 #include "enums/PrinterFacesMode_T.h"
 #include "enums/PrinterFileCompression_T.h"
@@ -13,6 +15,7 @@
 #include <vcore/VConvert.h>
 
 #include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
 #include <QtCore/QtEndian>
 
 #include <limits>
@@ -34,11 +37,6 @@ constexpr QLatin1StringView kOnlineLinearization{"onlineLinearization"};
 constexpr QLatin1StringView kIcon{"icon"};
 constexpr QLatin1StringView kSvgIcon{"svgIcon"};
 
-QString svgToText(const QByteArray &svg)
-{
-    return QString::fromLatin1(qCompress(svg, -1).toBase64());
-}
-
 /// No bytes when the text cannot be decoded.
 QByteArray svgFromText(const QString &text)
 {
@@ -55,53 +53,116 @@ QByteArray svgFromText(const QString &text)
     return qUncompress(compressed);
 }
 
-} // namespace
-
-QJsonObject VPrinterDriverPrivate::toJson() const
+template<typename Array>
+QList<EncodedImage> imagesFromJson(const Array &array)
 {
-    const QLocale c(QLocale::C);
-    QJsonObject object{
-        {kFileProtection, PrinterFileProtection_T::instance().textOf(fileProtection)},
-        {kFileCompression, PrinterFileCompression_T::instance().textOf(fileCompression)},
-        {kPrinterClass, PrinterClass_T::instance().textOf(printerClass)},
-        {kFacesMode, PrinterFacesMode_T::instance().textOf(facesMode)},
-        // As text: a JSON number holds no 64 bits.
-        {kMaximumImageBytes, VConvert::toString(maximumImageBytes, c)},
-        {kMaximumFaces, maximumFaces},
-        {kExperimental, experimental},
-        {kOnlineElaboration, onlineElaboration},
-        {kOnlineLinearization, onlineLinearizations},
-    };
-    if (!svgIcon.isEmpty()) {
-        object.insert(kSvgIcon, svgToText(svgIcon));
-        return object;
+    QList<EncodedImage> images;
+    for (const auto &element : array) {
+        const EncodedImage image = EncodedImage::fromJson(element.toObject());
+        if (!image.data.isEmpty() && !image.format.isEmpty())
+            images.append(image);
     }
-    const QJsonArray images = icon.toJson();
-    if (!images.isEmpty())
-        object.insert(kIcon, images);
-    return object;
+    return images;
 }
 
-void VPrinterDriverPrivate::readJson(const QJsonObject &object)
+} // namespace
+
+template<typename Writer>
+void VPrinterDriverPrivate::writeJson(Writer &object) const
 {
-    const auto textOf = [&object](QLatin1StringView key) { return object.value(key).toString(); };
-    fileProtection = PrinterFileProtection_T::instance().valueOf(textOf(kFileProtection));
-    fileCompression = PrinterFileCompression_T::instance().valueOf(textOf(kFileCompression));
+    // In the order of the keys, as the writers ask for.
+    object.insert(kExperimental, experimental);
+    object.insert(kFacesMode, PrinterFacesMode_T::instance().textOf(facesMode));
+    object.insert(kFileCompression, PrinterFileCompression_T::instance().textOf(fileCompression));
+    object.insert(kFileProtection, PrinterFileProtection_T::instance().textOf(fileProtection));
+    if (const QList<EncodedImage> images = icon.encoded(); svgIcon.isEmpty() && !images.isEmpty()) {
+        object.array(kIcon, [&](auto &array) {
+            for (const EncodedImage &image : images)
+                array.object([&](auto &element) { image.writeJson(element); });
+        });
+    }
+    object.insert(kMaximumFaces, maximumFaces);
+    // As text: a JSON number holds no 64 bits.
+    object.insertPlain(kMaximumImageBytes, QByteArray::number(maximumImageBytes));
+    object.insert(kOnlineElaboration, onlineElaboration);
+    object.insert(kOnlineLinearization, onlineLinearizations);
+    object.insert(kPrinterClass, PrinterClass_T::instance().textOf(printerClass));
+    if (!svgIcon.isEmpty())
+        object.insertPlain(kSvgIcon, qCompress(svgIcon, -1).toBase64());
+}
+
+template<typename Object>
+void VPrinterDriverPrivate::readContent(const Object &object)
+{
     // A missing class reads as the value 0, not as a new driver's Unknown: stored records that
     // leave it out mean that.
-    printerClass = PrinterClass_T::instance().valueOf(textOf(kPrinterClass));
-    facesMode = PrinterFacesMode_T::instance().valueOf(textOf(kFacesMode));
+    printerClass = PrinterClass_T::instance().valueOf(object.value(kPrinterClass));
+    facesMode = PrinterFacesMode_T::instance().valueOf(object.value(kFacesMode));
     maximumFaces = object.value(kMaximumFaces).toInt();
+}
+
+template<typename Object>
+void VPrinterDriverPrivate::readJson(const Object &object)
+{
+    readContent(object);
+    fileProtection = PrinterFileProtection_T::instance().valueOf(object.value(kFileProtection));
+    fileCompression = PrinterFileCompression_T::instance().valueOf(object.value(kFileCompression));
     experimental = object.value(kExperimental).toBool();
     onlineElaboration = object.value(kOnlineElaboration).toBool();
     onlineLinearizations = object.value(kOnlineLinearization).toBool();
     // No limit is stated: then there is none, rather than one of 0 bytes that nothing passes.
-    maximumImageBytes = object.value(kMaximumImageBytes).isString()
-        ? VConvert::toInt64(textOf(kMaximumImageBytes), QLocale(QLocale::C), 10)
+    const auto bytes = object.value(kMaximumImageBytes);
+    maximumImageBytes = bytes.isString()
+        ? VConvert::toInt64(bytes.toString(), QLocale(QLocale::C), 10)
         : std::numeric_limits<qint64>::max();
-    const QString svg = textOf(kSvgIcon);
+    const QString svg = object.value(kSvgIcon).toString();
     svgIcon = svg.isEmpty() ? QByteArray() : svgFromText(svg);
-    icon = svg.isEmpty() ? DriverIcon::fromJson(object.value(kIcon).toArray()) : DriverIcon();
+    icon = svg.isEmpty() ? DriverIcon(imagesFromJson(object.value(kIcon).toArray())) : DriverIcon();
+}
+
+/// Knows the fields of a driver, and its content id before it is decoded.
+class VPrinterDriver::Codec final : public Hardware::VDeviceConfigCodec
+{
+public:
+    void read(Hardware::VDeviceConfig &record, const VJsonTextObject &config) const override
+    {
+        static_cast<VPrinterDriver &>(record).own().readJson(config);
+    }
+    void write(const Hardware::VDeviceConfig &record, VJsonTextWriter &config) const override
+    {
+        static_cast<const VPrinterDriver &>(record).fields().writeJson(config);
+    }
+    std::optional<QUuid> dataId(const QUuid &deviceId, const VJsonTextObject &config) const override
+    {
+        VPrinterDriverPrivate fields;
+        fields.readContent(config);
+        return QUuid::createUuidV5(deviceId, fields.contentText());
+    }
+    void adopt(const Hardware::VDeviceConfig &record,
+               const Hardware::VDeviceConfig &decoded) const override
+    {
+        // A host may have copied no more than the base of a driver.
+        if (const auto *driver = dynamic_cast<const VPrinterDriver *>(&record))
+            driver->d = static_cast<const VPrinterDriver &>(decoded).d;
+    }
+};
+
+const Hardware::VDeviceConfigCodec *VPrinterDriver::codec() const
+{
+    return codecFor<Codec>(*this);
+}
+
+QJsonObject VPrinterDriver::toInnerJsonObject() const
+{
+    VJsonTreeWriter writer;
+    fields().writeJson(writer);
+    return writer.members();
+}
+
+bool VPrinterDriver::setInnerJsonObject(const QJsonObject &object)
+{
+    own().readJson(object);
+    return true;
 }
 
 } // namespace Norvane::Kilnjet

@@ -28,8 +28,16 @@ public:
     bool experimental = false;
 
     bool equals(const VPrinterDriverPrivate &other) const;
-    QJsonObject toJson() const;
-    void readJson(const QJsonObject &object);
+    /// The text that the content id is made of, in the namespace of the device id.
+    QString contentText() const;
+
+    template<typename Object>
+    void readJson(const Object &object);
+    /// Reads what contentText() needs and no more.
+    template<typename Object>
+    void readContent(const Object &object);
+    template<typename Writer>
+    void writeJson(Writer &object) const;
 };
 
 } // namespace Norvane::Kilnjet

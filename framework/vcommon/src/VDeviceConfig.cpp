@@ -3,11 +3,18 @@
 
 #include <vcommon/VDeviceConfig.h>
 
+#include "LateConfig.h"
 #include "VDeviceConfigChildren.h"
+#include "VDeviceConfigRegistry.h"
 #include "VDeviceConfig_p.h"
 
+#include <vcommon/VDeviceConfigCodec.h>
+
 #include <QtCore/QCryptographicHash>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
+
+#include <utility>
 
 namespace Norvane::Hardware {
 
@@ -20,6 +27,16 @@ VDeviceConfigPrivate *defaultFields()
 {
     static const auto *const fields = new QExplicitlySharedDataPointer(new VDeviceConfigPrivate);
     return fields->data();
+}
+
+const QJsonArray &treeOf(const QJsonArray &array)
+{
+    return array;
+}
+
+QJsonArray treeOf(const VJsonTextArray &array)
+{
+    return array.toJsonArray();
 }
 
 /// The envelope without what says nothing about the content, in its children too.
@@ -55,6 +72,7 @@ VDeviceConfig::VDeviceConfig(const QUuid &deviceId, const VVersion &version, con
 
 VDeviceConfig::VDeviceConfig(const VDeviceConfig &other)
     : IVDeviceConfig()
+    , m_late(other.m_late)
     , d(other.d)
     , m_children(VDeviceConfigChildren::copyOf(other.m_children))
 {
@@ -65,6 +83,9 @@ VDeviceConfig &VDeviceConfig::operator=(const VDeviceConfig &other)
 {
     if (this == &other)
         return *this;
+    // Before anything changes, since the derived class has fields of its own to decode.
+    decodeNow();
+    other.decodeNow();
     const auto children = VDeviceConfigChildren::copyOf(other.m_children);
     // `other` may be one of the children that are replaced here, and the derived class, whose
     // assignment calls this one first, has yet to read its fields from it: it must live on until
@@ -82,16 +103,41 @@ VDeviceConfig &VDeviceConfig::operator=(const VDeviceConfig &other)
 
 VDeviceConfig::~VDeviceConfig() = default;
 
+void VDeviceConfig::decode() const
+{
+    // Taken first: whatever looks at the record from here on finds it decoded.
+    const auto late = std::exchange(m_late, {});
+    const VDeviceConfig &decoded = late->decoded();
+    d = decoded.d;
+    m_children = VDeviceConfigChildren::copyOf(decoded.m_children);
+    late->codec().adopt(*this, decoded);
+}
+
+const VDeviceConfigPrivate &VDeviceConfig::fields() const
+{
+    decodeNow();
+    return *d;
+}
+
 VDeviceConfigPrivate &VDeviceConfig::own()
 {
+    decodeNow();
     // Acquire: a copy on another thread that has just let go has also finished reading.
     if (d->ref.loadAcquire() != 1)
         d.reset(new VDeviceConfigPrivate(*d));
     return *d;
 }
 
+/// The children; null when there are none.
+const VDeviceConfigChildren *VDeviceConfig::children() const
+{
+    decodeNow();
+    return m_children.data();
+}
+
 VDeviceConfigChildren &VDeviceConfig::ownChildren() const
 {
+    decodeNow();
     if (!m_children)
         m_children.reset(new VDeviceConfigChildren);
     else if (m_children->ref.loadAcquire() != 1)
@@ -103,7 +149,9 @@ bool VDeviceConfig::operator==(const VDeviceConfig &other) const
 {
     if (this == &other)
         return true;
-    if (d != other.d && !d->sameFields(*other.d))
+    const VDeviceConfigPrivate &own = fields();
+    const VDeviceConfigPrivate &others = other.fields();
+    if (&own != &others && !own.sameFields(others))
         return false;
     const bool hasChildren = m_children && !m_children->isEmpty();
     const bool otherHasChildren = other.m_children && !other.m_children->isEmpty();
@@ -114,7 +162,7 @@ bool VDeviceConfig::operator==(const VDeviceConfig &other) const
 
 QUuid VDeviceConfig::deviceId() const
 {
-    return d->deviceId;
+    return fields().deviceId;
 }
 
 void VDeviceConfig::setDeviceId(const QUuid &deviceId)
@@ -124,7 +172,7 @@ void VDeviceConfig::setDeviceId(const QUuid &deviceId)
 
 bool VDeviceConfig::isNull() const
 {
-    return d->deviceId.isNull();
+    return fields().deviceId.isNull();
 }
 
 bool VDeviceConfig::isEmpty() const
@@ -139,7 +187,7 @@ bool VDeviceConfig::isValid() const
 
 VVersion VDeviceConfig::version() const
 {
-    return d->version;
+    return fields().version;
 }
 
 void VDeviceConfig::setVersion(const VVersion &version)
@@ -149,7 +197,7 @@ void VDeviceConfig::setVersion(const VVersion &version)
 
 QDateTime VDeviceConfig::dateTime() const
 {
-    return d->dateTime;
+    return fields().dateTime;
 }
 
 void VDeviceConfig::setDateTime(const QDateTime &dateTime)
@@ -159,7 +207,7 @@ void VDeviceConfig::setDateTime(const QDateTime &dateTime)
 
 QString VDeviceConfig::name() const
 {
-    return d->name;
+    return fields().name;
 }
 
 void VDeviceConfig::setName(const QString &name)
@@ -169,7 +217,7 @@ void VDeviceConfig::setName(const QString &name)
 
 QString VDeviceConfig::description() const
 {
-    return d->description;
+    return fields().description;
 }
 
 void VDeviceConfig::setDescription(const QString &description)
@@ -210,17 +258,17 @@ bool VDeviceConfig::remove(IVDeviceConfig *config, bool deep)
 
 bool VDeviceConfig::contains(const QUuid &id, bool deep) const
 {
-    return m_children && m_children->contains(id, deep);
+    return children() != nullptr && m_children->contains(id, deep);
 }
 
 bool VDeviceConfig::contains(IVDeviceConfig *config, bool deep) const
 {
-    return m_children && m_children->contains(config, deep);
+    return children() != nullptr && m_children->contains(config, deep);
 }
 
 int VDeviceConfig::count(const QUuid &id, bool deep) const
 {
-    return m_children ? m_children->count(id, deep) : 0;
+    return children() != nullptr ? m_children->count(id, deep) : 0;
 }
 
 QList<IVDeviceConfig *> VDeviceConfig::values(const QUuid &id) const
@@ -234,7 +282,7 @@ bool VDeviceConfig::save(QIODevice *device)
 {
     if (device == nullptr || !device->isWritable())
         return false;
-    const QByteArray json = QJsonDocument(toJsonObject()).toJson(QJsonDocument::Compact);
+    const QByteArray json = toJson();
     return device->write(json) == json.size();
 }
 
@@ -248,44 +296,110 @@ bool VDeviceConfig::load(QIODevice *device)
 
 bool VDeviceConfig::setJsonObject(const QJsonObject &object)
 {
-    const auto kind = QUuid::fromString(object.value(EnvelopeKey::kId).toString());
-    if (kind.isNull() || kind != id())
-        return false;
+    const QUuid kind = uuidFromJson(object.value(EnvelopeKey::kId));
+    return !kind.isNull() && kind == id() && readEnvelope(object, *registeredPrototypes());
+}
+
+bool VDeviceConfig::readConfig(const QJsonObject &config)
+{
+    return setInnerJsonObject(config);
+}
+
+bool VDeviceConfig::readConfig(const VJsonTextObject &config)
+{
+    codec()->read(*this, config);
+    return true;
+}
+
+template<typename Object>
+bool VDeviceConfig::readEnvelope(const Object &envelope, const Prototypes &prototypes)
+{
+    decodeNow();
     const auto oldFields = d;
     const auto oldChildren = m_children;
-    own().readJson(object);
-    m_children = VDeviceConfigChildren::fromJson(object.value(EnvelopeKey::kChildren).toArray());
+    own().readJson(envelope);
+    m_children = VDeviceConfigChildren::fromJson(envelope.value(EnvelopeKey::kChildren).toArray(),
+                                                 prototypes);
     // The class reads its own fields last, so that it can ask in which version they were written.
-    if (!setInnerJsonObject(object.value(EnvelopeKey::kConfig).toObject())) {
+    if (!readConfig(envelope.value(EnvelopeKey::kConfig).toObject())) {
         d = oldFields;
         m_children = oldChildren;
         return false;
     }
     clearMetadata();
-    insertMetadataFromJson(*this, object.value(EnvelopeKey::kMetadata).toArray());
+    insertMetadataFromJson(*this, treeOf(envelope.value(EnvelopeKey::kMetadata).toArray()));
     return true;
+}
+
+void VDeviceConfig::readText(const VJsonTextObject &envelope, const Prototypes &prototypes)
+{
+    readEnvelope(envelope, prototypes);
 }
 
 QUuid VDeviceConfig::dataId() const
 {
+    // The id of a record that was not decoded is known, unless its class computes another one.
+    if (m_late && codec() != nullptr)
+        return m_late->dataId();
     // True until told otherwise: a class whose records always have a content id may ignore it.
     bool ok = true;
     const QUuid id = innerDataId(&ok);
     return ok ? id : QUuid();
 }
 
+void VDeviceConfig::writeConfig(VJsonTreeWriter &envelope) const
+{
+    envelope.insert(EnvelopeKey::kConfig, toInnerJsonObject());
+}
+
+void VDeviceConfig::writeConfig(VJsonTextWriter &envelope) const
+{
+    envelope.object(EnvelopeKey::kConfig, [this](auto &config) { codec()->write(*this, config); });
+}
+
+template<typename Writer>
+void VDeviceConfig::writeEnvelope(Writer &envelope) const
+{
+    // In the order of the keys, as the writers ask for.
+    const VDeviceConfigPrivate &own = fields();
+    if (m_children && !m_children->isEmpty())
+        envelope.array(EnvelopeKey::kChildren, [this](auto &array) { m_children->write(array); });
+    writeConfig(envelope);
+    if (const QString text = own.dateTimeText(); !text.isEmpty())
+        envelope.insert(EnvelopeKey::kDateTime, text);
+    envelope.insert(EnvelopeKey::kDescription, own.description);
+    envelope.insertPlain(EnvelopeKey::kDeviceId, own.deviceId.toByteArray(QUuid::WithBraces));
+    envelope.insertPlain(EnvelopeKey::kId, id().toByteArray(QUuid::WithBraces));
+    if (const QJsonArray metadata = metadataToJson(metadataList()); !metadata.isEmpty())
+        envelope.insert(EnvelopeKey::kMetadata, metadata);
+    envelope.insert(EnvelopeKey::kName, own.name);
+    envelope.insert(EnvelopeKey::kVersion, own.version.toString());
+}
+
+void VDeviceConfig::writeText(VJsonTextWriter &envelope) const
+{
+    writeEnvelope(envelope);
+}
+
 QJsonObject VDeviceConfig::toJsonObject() const
 {
-    QJsonObject object;
-    object.insert(EnvelopeKey::kId, id().toString(QUuid::WithBraces));
-    d->writeJson(object);
-    object.insert(EnvelopeKey::kConfig, toInnerJsonObject());
-    if (m_children && !m_children->isEmpty())
-        object.insert(EnvelopeKey::kChildren, m_children->toJson());
-    const QJsonArray metadata = metadataToJson(metadataList());
-    if (!metadata.isEmpty())
-        object.insert(EnvelopeKey::kMetadata, metadata);
-    return object;
+    VJsonTreeWriter envelope;
+    writeEnvelope(envelope);
+    return envelope.members();
+}
+
+QByteArray VDeviceConfig::toJson() const
+{
+    if (codec() == nullptr)
+        return QJsonDocument(toJsonObject()).toJson(QJsonDocument::Compact);
+    VJsonTextWriter writer;
+    writer.object([this](auto &envelope) { writeEnvelope(envelope); });
+    return writer.text();
+}
+
+const VDeviceConfigCodec *VDeviceConfig::codec() const
+{
+    return nullptr;
 }
 
 QByteArray VDeviceConfig::hash() const
@@ -304,24 +418,25 @@ QString VDeviceConfig::toInnerGenericString(const QString &format, const QLocale
 {
     Q_UNUSED(locale)
     const auto textOf = [](const QUuid &id) { return id.toString(QUuid::WithBraces); };
+    const VDeviceConfigPrivate &own = fields();
     if (format.isEmpty())
-        return d->name.isEmpty() ? textOf(d->deviceId) : d->name;
+        return own.name.isEmpty() ? textOf(own.deviceId) : own.name;
     QString text;
     // In one pass: a name that itself holds "%d" is text, not format.
     for (qsizetype i = 0; i < format.size(); ++i) {
         const bool isCode = format.at(i) == u'%' && i + 1 < format.size();
         switch (isCode ? format.at(++i).unicode() : u'\0') {
         case u'n':
-            text += d->name;
+            text += own.name;
             break;
         case u'd':
-            text += d->description;
+            text += own.description;
             break;
         case u'v':
-            text += d->version.toString();
+            text += own.version.toString();
             break;
         case u'i':
-            text += textOf(d->deviceId);
+            text += textOf(own.deviceId);
             break;
         case u'c':
             text += textOf(dataId());
@@ -346,7 +461,7 @@ QUuid VDeviceConfig::innerDataId(bool *ok) const
 {
     if (ok != nullptr)
         *ok = true;
-    return d->deviceId;
+    return fields().deviceId;
 }
 
 bool VDeviceConfig::innerIsValid() const
@@ -356,12 +471,12 @@ bool VDeviceConfig::innerIsValid() const
 
 bool VDeviceConfig::innerIsEmpty() const
 {
-    return d->name.isEmpty() && d->description.isEmpty() && count(QUuid(), false) == 0;
+    return fields().name.isEmpty() && fields().description.isEmpty() && count(QUuid(), false) == 0;
 }
 
 QUuid VDeviceConfig::storedId() const
 {
-    return d->storedId;
+    return fields().storedId;
 }
 
 } // namespace Norvane::Hardware

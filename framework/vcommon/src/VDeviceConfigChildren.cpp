@@ -3,10 +3,14 @@
 
 #include "VDeviceConfigChildren.h"
 
+#include "LateConfig.h"
 #include "OpaqueConfig.h"
-#include "VDeviceConfig_p.h"
+#include "VDeviceConfigRegistry.h"
 
 #include <vcommon/VDeviceConfig.h>
+#include <vcommon/VDeviceConfigCodec.h>
+
+#include <QtCore/QJsonArray>
 
 #include <algorithm>
 
@@ -19,6 +23,16 @@ using Config = VDeviceConfigChildren::Config;
 bool isOfKind(const Config &config, const QUuid &id)
 {
     return id.isNull() || config.id() == id;
+}
+
+QJsonObject treeOf(const QJsonObject &object)
+{
+    return object;
+}
+
+QJsonObject treeOf(const VJsonTextObject &object)
+{
+    return object.toJsonObject();
 }
 
 bool losesMetadataInACopy(const Config &config)
@@ -36,27 +50,46 @@ VDeviceConfigChildren::Pointer VDeviceConfigChildren::copyOf(const Pointer &chil
     return children && !children->m_shareable ? children->clones() : children;
 }
 
-VDeviceConfigChildren::Pointer VDeviceConfigChildren::fromJson(const QJsonArray &array)
+template<typename Array>
+VDeviceConfigChildren::Pointer VDeviceConfigChildren::fromJson(const Array &array,
+                                                               const Prototypes &prototypes)
 {
     Pointer children(new VDeviceConfigChildren);
-    for (const QJsonValue &element : array) {
+    for (const auto &element : array) {
         if (!element.isObject())
             continue;
-        const QJsonObject envelope = element.toObject();
-        std::unique_ptr<Config> config = registeredConfigFromJson(envelope);
+        const auto envelope = element.toObject();
+        std::unique_ptr<Config> config = prototypes.create(envelope);
         if (!config)
-            config = std::make_unique<OpaqueConfig>(envelope);
+            config = std::make_unique<OpaqueConfig>(treeOf(envelope));
         children->append(std::move(config));
     }
     return children->isEmpty() ? Pointer() : children;
 }
 
-QJsonArray VDeviceConfigChildren::toJson() const
+template VDeviceConfigChildren::Pointer VDeviceConfigChildren::fromJson(const QJsonArray &,
+                                                                        const Prototypes &);
+template VDeviceConfigChildren::Pointer VDeviceConfigChildren::fromJson(const VJsonTextArray &,
+                                                                        const Prototypes &);
+
+template<>
+void VDeviceConfigChildren::write(VJsonTreeWriter &array) const
 {
-    QJsonArray array;
     for (const auto &config : m_configs)
         array.append(config->toJsonObject());
-    return array;
+}
+
+template<>
+void VDeviceConfigChildren::write(VJsonTextWriter &array) const
+{
+    for (const auto &config : m_configs) {
+        if (codecOf(config.get()) != nullptr)
+            array.object([&](auto &envelope) {
+                static_cast<const VDeviceConfig &>(*config).writeText(envelope);
+            });
+        else
+            array.append(config->toJsonObject());
+    }
 }
 
 VDeviceConfigChildren::Pointer VDeviceConfigChildren::clones() const
@@ -73,6 +106,8 @@ void VDeviceConfigChildren::append(std::unique_ptr<Config> config)
     // A shared child stays what it is, a cloned one may lose metadata, and of a class of the host's
     // own nothing is known: records that would show the difference are cloned.
     const auto *base = dynamic_cast<const VDeviceConfig *>(config.get());
+    if (base != nullptr)
+        base->decodeNow(); // The records that share a child only read it, from any thread.
     m_shareable = m_shareable && base != nullptr && !losesMetadataInACopy(*config)
         && (!base->m_children || base->m_children->m_shareable);
     m_configs.push_back(std::move(config));

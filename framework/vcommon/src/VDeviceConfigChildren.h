@@ -5,7 +5,6 @@
 
 #include <vcommon/IVDeviceConfig.h>
 
-#include <QtCore/QJsonArray>
 #include <QtCore/QSharedData>
 #include <QtCore/QSharedDataPointer>
 
@@ -13,6 +12,8 @@
 #include <vector>
 
 namespace Norvane::Hardware {
+
+class Prototypes;
 
 /// The children of a record, shared by its copies as long as nobody can tell.
 ///
@@ -29,8 +30,11 @@ public:
     static Pointer copyOf(const Pointer &children);
     /// The children that an envelope lists; null when there are none. Objects of a kind that is not
     /// registered are kept as they came, elements that are no objects are skipped.
-    static Pointer fromJson(const QJsonArray &array);
-    QJsonArray toJson() const;
+    template<typename Array>
+    static Pointer fromJson(const Array &array, const Prototypes &prototypes);
+    /// Writes the envelopes as elements of an array.
+    template<typename Writer>
+    void write(Writer &array) const;
 
     /// A block of clones.
     Pointer clones() const;

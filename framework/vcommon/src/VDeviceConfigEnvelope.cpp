@@ -5,6 +5,7 @@
 
 #include "VDeviceConfig_p.h"
 
+#include <vcore/VJsonText.h>
 #include <vcore/VMetadata.h>
 
 #include <QtCore/QJsonArray>
@@ -21,6 +22,8 @@ constexpr QLatin1StringView kMetadataValue{"value"};
 
 QDateTime dateTimeFromText(const QString &text)
 {
+    if (text.isEmpty())
+        return {};
     QDateTime dateTime = QDateTime::fromString(text, Qt::ISODateWithMs);
     // The same text means the same moment wherever it is read: no zone is not the reader's zone.
     if (dateTime.timeSpec() == Qt::LocalTime) {
@@ -32,25 +35,23 @@ QDateTime dateTimeFromText(const QString &text)
 
 } // namespace
 
-void VDeviceConfigPrivate::readJson(const QJsonObject &envelope)
+template<typename Object>
+void VDeviceConfigPrivate::readJson(const Object &envelope)
 {
-    deviceId = QUuid::fromString(envelope.value(EnvelopeKey::kDeviceId).toString());
+    deviceId = uuidFromJson(envelope.value(EnvelopeKey::kDeviceId));
     version = VVersion::fromString(envelope.value(EnvelopeKey::kVersion).toString());
     name = envelope.value(EnvelopeKey::kName).toString();
     description = envelope.value(EnvelopeKey::kDescription).toString();
     dateTime = dateTimeFromText(envelope.value(EnvelopeKey::kDateTime).toString());
 }
 
-void VDeviceConfigPrivate::writeJson(QJsonObject &envelope) const
+template void VDeviceConfigPrivate::readJson(const QJsonObject &);
+template void VDeviceConfigPrivate::readJson(const VJsonTextObject &);
+
+QString VDeviceConfigPrivate::dateTimeText() const
 {
-    envelope.insert(EnvelopeKey::kDeviceId, deviceId.toString(QUuid::WithBraces));
-    envelope.insert(EnvelopeKey::kVersion, version.toString());
-    envelope.insert(EnvelopeKey::kName, name);
-    envelope.insert(EnvelopeKey::kDescription, description);
     // ISO text covers the years 0 to 9999 only; a moment beyond them has none.
-    const QString text = dateTime.toString(Qt::ISODateWithMs);
-    if (!text.isEmpty())
-        envelope.insert(EnvelopeKey::kDateTime, text);
+    return dateTime.isValid() ? dateTime.toString(Qt::ISODateWithMs) : QString();
 }
 
 bool VDeviceConfigPrivate::sameFields(const VDeviceConfigPrivate &other) const

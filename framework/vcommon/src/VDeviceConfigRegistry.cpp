@@ -3,11 +3,14 @@
 
 // The prototypes of the kinds of records, and the records made from them.
 
+#include "VDeviceConfigRegistry.h"
+
+#include "LateConfig.h"
 #include "VDeviceConfig_p.h"
 
 #include <vcommon/VDeviceConfig.h>
+#include <vcommon/VDeviceConfigCodec.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QMutex>
 
@@ -22,7 +25,7 @@ using Interfaces::IVDeviceConfig;
 struct Registry
 {
     QMutex mutex;
-    QHash<QUuid, const IVDeviceConfig *> prototypes;
+    std::shared_ptr<const Prototypes> prototypes = std::make_shared<Prototypes>();
     std::vector<IVDeviceConfig *> kept; ///< All that were ever registered, replaced ones too.
 };
 
@@ -33,22 +36,53 @@ Registry &registry()
     return *instance;
 }
 
-const IVDeviceConfig *prototypeOf(const QUuid &id)
+IVDeviceConfig *configFromTree(const QByteArray &json)
 {
-    const QMutexLocker locker(&registry().mutex);
-    return registry().prototypes.value(id, nullptr);
+    const QJsonDocument document = QJsonDocument::fromJson(json);
+    return document.isObject() ? registeredPrototypes()->create(document.object()).release()
+                               : nullptr;
 }
 
 } // namespace
 
-std::unique_ptr<IVDeviceConfig> registeredConfigFromJson(const QJsonObject &envelope)
+std::shared_ptr<const Prototypes> registeredPrototypes()
 {
-    const auto id = QUuid::fromString(envelope.value(EnvelopeKey::kId).toString());
-    const IVDeviceConfig *const prototype = id.isNull() ? nullptr : prototypeOf(id);
+    const QMutexLocker locker(&registry().mutex);
+    return registry().prototypes;
+}
+
+const VDeviceConfigCodec *codecOf(const IVDeviceConfig *prototype)
+{
+    const auto *config = dynamic_cast<const VDeviceConfig *>(prototype);
+    return config != nullptr ? config->codec() : nullptr;
+}
+
+template<typename Object>
+const IVDeviceConfig *Prototypes::find(const Object &envelope) const
+{
+    const QUuid kind = uuidFromJson(envelope.value(EnvelopeKey::kId));
+    return kind.isNull() ? nullptr : byKind.value(kind, nullptr);
+}
+
+template const IVDeviceConfig *Prototypes::find(const VJsonTextObject &) const;
+
+std::unique_ptr<IVDeviceConfig> Prototypes::create(const QJsonObject &envelope) const
+{
+    const IVDeviceConfig *const prototype = find(envelope);
     if (prototype == nullptr)
         return nullptr;
     std::unique_ptr<IVDeviceConfig> config(static_cast<IVDeviceConfig *>(prototype->clone()));
     return config->setJsonObject(envelope) ? std::move(config) : nullptr;
+}
+
+std::unique_ptr<IVDeviceConfig> Prototypes::create(const VJsonTextObject &envelope) const
+{
+    const IVDeviceConfig *const prototype = find(envelope);
+    if (codecOf(prototype) == nullptr)
+        return prototype != nullptr ? create(envelope.toJsonObject()) : nullptr;
+    std::unique_ptr<IVDeviceConfig> config(static_cast<IVDeviceConfig *>(prototype->clone()));
+    static_cast<VDeviceConfig &>(*config).readText(envelope, *this);
+    return config;
 }
 
 void VDeviceConfig::registerConfig(IVDeviceConfig *prototype)
@@ -57,19 +91,43 @@ void VDeviceConfig::registerConfig(IVDeviceConfig *prototype)
         return;
     const QUuid id = prototype->id();
     const QMutexLocker locker(&registry().mutex);
-    registry().prototypes.insert(id, prototype);
+    // Anew, since whoever reads records at this moment goes on with what was registered before.
+    auto prototypes = std::make_shared<Prototypes>(*registry().prototypes);
+    prototypes->byKind.insert(id, prototype);
+    registry().prototypes = std::move(prototypes);
     registry().kept.push_back(prototype);
 }
 
 bool VDeviceConfig::isRegistered(const QUuid &id)
 {
-    return prototypeOf(id) != nullptr;
+    return registeredPrototypes()->byKind.contains(id);
 }
 
 IVDeviceConfig *VDeviceConfig::fromJson(const QByteArray &json)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(json);
-    return document.isObject() ? registeredConfigFromJson(document.object()).release() : nullptr;
+    VJsonText text;
+    return text.parse(json) ? registeredPrototypes()->create(text.object()).release()
+                            : configFromTree(json);
+}
+
+IVDeviceConfig *VDeviceConfig::fromJson(const VBytes &json)
+{
+    VJsonText text;
+    if (!text.parse(json.view()))
+        return configFromTree(json.toByteArray());
+    const auto prototypes = registeredPrototypes();
+    const VJsonTextObject envelope = text.object();
+    const IVDeviceConfig *const prototype = prototypes->find(envelope);
+    const VDeviceConfigCodec *const codec = codecOf(prototype);
+    QExplicitlySharedDataPointer<LateConfig> late;
+    if (codec != nullptr)
+        late = LateConfig::create(json, envelope, prototypes, *codec);
+    if (!late)
+        return prototypes->create(envelope).release();
+    auto *config = static_cast<VDeviceConfig *>(static_cast<IVDeviceConfig *>(prototype->clone()));
+    config->m_late = late;
+    config->clearMetadata();
+    return config;
 }
 
 } // namespace Norvane::Hardware

@@ -37,8 +37,10 @@ public:
     QString description;
 
     /// Replaces the fields by those of an envelope; a missing or ill-typed key takes its default.
-    void readJson(const QJsonObject &envelope);
-    void writeJson(QJsonObject &envelope) const;
+    template<typename Object>
+    void readJson(const Object &envelope);
+    /// The date-time as the envelope spells it; empty when it has none that ISO can spell.
+    QString dateTimeText() const;
     bool sameFields(const VDeviceConfigPrivate &other) const;
 };
 
@@ -46,9 +48,5 @@ public:
 QJsonArray metadataToJson(const QList<Norvane::Interfaces::IMetadata *> &entries);
 /// Inserts the entries of a "metadata" array; malformed ones are skipped.
 void insertMetadataFromJson(Norvane::Interfaces::IMetadatable &record, const QJsonArray &array);
-
-/// The record of a registered kind that `envelope` describes; null when its kind is not registered
-/// or refuses it.
-std::unique_ptr<Interfaces::IVDeviceConfig> registeredConfigFromJson(const QJsonObject &envelope);
 
 } // namespace Norvane::Hardware

@@ -4,6 +4,7 @@
 #include <vimaging/VResolution.h>
 
 #include <vcore/VConvert.h>
+#include <vcore/VJsonWriter.h>
 
 using namespace Qt::StringLiterals;
 
@@ -17,13 +18,9 @@ VResolution::VResolution(double x, double y, ResolutionUnit unit)
 
 QJsonObject VResolution::toJsonObject() const
 {
-    return {{u"x"_s, m_x}, {u"y"_s, m_y}, {u"unit"_s, ResolutionUnit_T::instance().textOf(m_unit)}};
-}
-
-VResolution VResolution::fromJsonObject(const QJsonObject &object)
-{
-    return {object.value("x"_L1).toDouble(), object.value("y"_L1).toDouble(),
-            ResolutionUnit_T::instance().valueOf(object.value("unit"_L1).toString())};
+    VJsonTreeWriter writer;
+    writeJson(writer);
+    return writer.members();
 }
 
 QString VResolution::toString(const QLocale &locale) const

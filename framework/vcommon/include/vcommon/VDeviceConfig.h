@@ -4,12 +4,18 @@
 #pragma once
 
 #include <vcommon/IVDeviceConfig.h>
+#include <vcore/VBytes.h>
+#include <vcore/VJsonText.h>
+#include <vcore/VJsonWriter.h>
 
 #include <QtCore/QSharedDataPointer>
 
 namespace Norvane::Hardware {
 
+class LateConfig;
+class Prototypes;
 class VDeviceConfigChildren;
+class VDeviceConfigCodec;
 class VDeviceConfigPrivate;
 
 /// The base of every device configuration: the envelope around a class's own fields.
@@ -90,6 +96,13 @@ public:
     /// A new configuration, owned by the caller, of the kind that `json` names; null when the bytes
     /// are not the JSON of a registered kind. Safe on any bytes.
     static Interfaces::IVDeviceConfig *fromJson(const QByteArray &json);
+    /// The same for a part of a buffer, which the record may keep: one whose class allows it, with
+    /// text that is in order, is only decoded when it or a copy of it is first looked at. That does
+    /// not show but in the time it takes.
+    static Interfaces::IVDeviceConfig *fromJson(const VBytes &json);
+
+    /// The compact JSON text of toJsonObject().
+    QByteArray toJson() const;
 
 protected:
     /// The class's own fields as JSON.
@@ -110,6 +123,13 @@ protected:
 
     /// What setId() stored; the null id before.
     QUuid storedId() const;
+    /// Decodes a record that was read without: a class with a codec calls this before it looks at
+    /// its own fields.
+    void decodeNow() const
+    {
+        if (m_late)
+            decode();
+    }
 
 public:
     // Declared last, so that the operations above stand in one row in the table of virtuals.
@@ -123,13 +143,36 @@ public:
     /// name, or the device id of a record without one.
     QString toString(const QString &format, const QLocale &locale) const override;
 
+protected:
+    /// How records of exactly this class are read and written without a tree of values; null, as
+    /// here, if they are not. A class whose base has a codec must not use that of its base.
+    virtual const VDeviceConfigCodec *codec() const;
+
 private:
+    friend class Prototypes;
     friend class VDeviceConfigChildren;
+    friend const VDeviceConfigCodec *codecOf(const Interfaces::IVDeviceConfig *);
 
+    void decode() const;
+    const VDeviceConfigPrivate &fields() const;
     VDeviceConfigPrivate &own();
+    const VDeviceConfigChildren *children() const;
     VDeviceConfigChildren &ownChildren() const;
+    // What reads and writes the envelope, from a tree or from text alike.
+    template<typename Object>
+    bool readEnvelope(const Object &envelope, const Prototypes &prototypes);
+    bool readConfig(const QJsonObject &config);
+    bool readConfig(const VJsonTextObject &config);
+    void readText(const VJsonTextObject &envelope, const Prototypes &prototypes);
+    template<typename Writer>
+    void writeEnvelope(Writer &envelope) const;
+    void writeConfig(VJsonTreeWriter &envelope) const;
+    void writeConfig(VJsonTextWriter &envelope) const;
+    void writeText(VJsonTextWriter &envelope) const;
 
-    QExplicitlySharedDataPointer<VDeviceConfigPrivate> d; ///< The fields, shared by copies.
+    /// The record, not decoded yet; null when it is, and the members below hold it.
+    mutable QExplicitlySharedDataPointer<LateConfig> m_late;
+    mutable QExplicitlySharedDataPointer<VDeviceConfigPrivate> d; ///< Shared by copies.
     mutable QExplicitlySharedDataPointer<VDeviceConfigChildren> m_children; ///< Null: none.
     QExplicitlySharedDataPointer<VDeviceConfigChildren> m_replaced; ///< Kept for an assignment.
 };

@@ -35,7 +35,21 @@ public:
     void setUnit(ResolutionUnit unit) { m_unit = unit; }
 
     QJsonObject toJsonObject() const;
-    static VResolution fromJsonObject(const QJsonObject &object);
+    static VResolution fromJsonObject(const QJsonObject &object) { return fromJson(object); }
+    /// The same from any reader of JSON objects, and to any writer of them.
+    template<typename Object>
+    static VResolution fromJson(const Object &object)
+    {
+        return {object.value(kX).toDouble(), object.value(kY).toDouble(),
+                ResolutionUnit_T::instance().valueOf(object.value(kUnit))};
+    }
+    template<typename Writer>
+    void writeJson(Writer &object) const
+    {
+        object.insert(kUnit, ResolutionUnit_T::instance().textOf(m_unit));
+        object.insert(kX, m_x);
+        object.insert(kY, m_y);
+    }
 
     /// "400 x 360 DPI", the numbers as `locale` writes them.
     QString toString(const QLocale &locale = QLocale()) const;
@@ -45,6 +59,10 @@ public:
     bool operator!=(const VResolution &other) const { return !(*this == other); }
 
 private:
+    static constexpr QLatin1StringView kUnit{"unit"};
+    static constexpr QLatin1StringView kX{"x"};
+    static constexpr QLatin1StringView kY{"y"};
+
     double m_x = 0.0;
     double m_y = 0.0;
     ResolutionUnit m_unit = ResolutionUnit::PPM;
