@@ -4,10 +4,7 @@
 #include "DriverRecord.h"
 
 #include <vcommon/VDeviceConfig.h>
-#include <vcore/VConvert.h>
-#include <vcore/VLocale.h>
-
-#include <QtCore/QJsonDocument>
+#include <vcore/VBytes.h>
 
 #include <optional>
 #include <tuple>
@@ -23,22 +20,7 @@ QString driverField()
     return u"driver"_s;
 }
 
-VLocale localeOf(const Database::VDBRecord &record)
-{
-    const QVariant culture = record.search(Database::VDBRecord::cultureKey()).value();
-    return VLocale(VConvert::toString(culture, QLocale::c()), QLocale::OmitGroupSeparator);
-}
-
-std::optional<QString> textOf(const Database::VDBRecord &record, const QString &key,
-                              const QLocale &locale)
-{
-    const Database::VDBField field = record.search(key);
-    if (!field.isFound() || field.value().isNull())
-        return std::nullopt;
-    return VConvert::toString(field.value(), locale);
-}
-
-std::unique_ptr<VPrinterDriver> driverFromJson(const QByteArray &json)
+std::unique_ptr<VPrinterDriver> driverFromJson(const VBytes &json)
 {
     std::unique_ptr<Hardware::Interfaces::IVDeviceConfig> config(
         Hardware::VDeviceConfig::fromJson(json));
@@ -63,10 +45,9 @@ QString textFromId(const QUuid &id)
 
 Database::VDBRecord fromDriver(const VPrinterDriver &driver)
 {
-    const QByteArray json = QJsonDocument(driver.toJsonObject()).toJson(QJsonDocument::Compact);
     Database::VDBRecord record;
     record.insert(idField(), textFromId(driver.dataId()));
-    record.insert(driverField(), QString::fromUtf8(json));
+    record.insertUtf8(driverField(), driver.toJson());
     return record;
 }
 
@@ -74,14 +55,12 @@ std::unique_ptr<VPrinterDriver> toDriver(const Database::VDBRecord &record)
 {
     if (!record.checkSignature())
         return nullptr;
-    const VLocale locale = localeOf(record);
-    const QUuid id(textOf(record, idField(), locale).value_or(QString()));
-    if (id.isNull())
+    const QUuid id =
+        QUuid::fromString(QUtf8StringView(record.utf8(idField()).value_or(VBytes()).view()));
+    const std::optional<VBytes> json = record.utf8(driverField());
+    if (id.isNull() || !json)
         return nullptr;
-    const std::optional<QString> json = textOf(record, driverField(), locale);
-    if (!json)
-        return nullptr;
-    std::unique_ptr<VPrinterDriver> driver = driverFromJson(json->toUtf8());
+    std::unique_ptr<VPrinterDriver> driver = driverFromJson(*json);
     // A driver under a foreign id could neither be found by its content nor be rewritten.
     if (!driver || driver->dataId() != id)
         return nullptr;

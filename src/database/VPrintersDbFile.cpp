@@ -8,10 +8,12 @@
 #include "DriverRecord.h"
 #include "VPrintersDb_p.h"
 
-#include <vcommon/VDBIterator.h>
 #include <vcore/VLocale.h>
+#include <vcore/VParallel.h>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -19,9 +21,11 @@ namespace Norvane::Kilnjet {
 
 namespace {
 
-using Database::VDBIterator;
 using Database::VDBRecord;
 using Database::VDBText;
+
+/// From twice so many records on, threads are worth their start.
+constexpr std::size_t kRecordsWorthAThread = 32;
 
 bool openOrCreate(VDBText &store, QIODevice *device)
 {
@@ -37,29 +41,42 @@ bool openOrCreate(VDBText &store, QIODevice *device)
 /// Nothing when the store cannot be read; an unchanged one is not read before it is asked for.
 std::optional<QMap<QUuid, VPrinterDriver>> readDrivers(VDBText &store)
 {
-    VDBRecord first;
-    store.first(first);
+    const QList<VDBRecord> records = store.values();
     if (store.status() != Database::VDBStatus::Ok)
         return std::nullopt;
-    VDBRecord last;
-    store.last(last);
-    VDBIterator end(store, last);
-    ++end;
+    std::vector<std::unique_ptr<VPrinterDriver>> read(std::size_t(records.size()));
+    parallelFor(read.size(), kRecordsWorthAThread, [&](std::size_t begin, std::size_t end) {
+        for (std::size_t i = begin; i < end; ++i)
+            read[i] = DriverRecord::toDriver(records.at(qsizetype(i)));
+    });
     QMap<QUuid, VPrinterDriver> drivers;
-    for (VDBIterator it(store, first); it != end; ++it) {
-        if (const auto driver = DriverRecord::toDriver(*it))
+    for (auto &driver : read) {
+        if (driver)
             drivers.insert(driver->dataId(), *driver);
+        driver.reset();
     }
     return drivers;
 }
 
-void writeDriver(VDBText &store, const QUuid &id, const VPrinterDriver &driver)
+/// Puts the drivers under `ids` into the store, and takes those out that are gone or not valid.
+void writeDrivers(VDBText &store, const QList<QUuid> &ids,
+                  const QMap<QUuid, VPrinterDriver> &drivers)
 {
-    const QString text = DriverRecord::textFromId(id);
-    if (store.contains(text))
-        store.remove(text);
-    if (driver.isValid())
-        store.insert(DriverRecord::fromDriver(driver));
+    std::vector<VDBRecord> records(std::size_t(ids.size()));
+    parallelFor(records.size(), kRecordsWorthAThread, [&](std::size_t begin, std::size_t end) {
+        for (std::size_t i = begin; i < end; ++i) {
+            const auto driver = drivers.constFind(ids.at(qsizetype(i)));
+            if (driver != drivers.constEnd() && driver->isValid())
+                records[i] = DriverRecord::fromDriver(*driver);
+        }
+    });
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const QString id = DriverRecord::textFromId(ids.at(qsizetype(i)));
+        if (store.contains(id))
+            store.remove(id);
+        if (!records[i].isNull())
+            store.insert(records[i]);
+    }
 }
 
 } // namespace
@@ -95,8 +112,7 @@ void VPrintersDb::_commit()
         Q_EMIT error();
         return;
     }
-    for (const QUuid &id : std::as_const(d->dirtyIds))
-        writeDriver(d->store, id, d->value(id));
+    writeDrivers(d->store, d->dirtyIds.values(), d->drivers);
     d->store.close();
     const bool written = d->store.wasDurable();
     if (written)
