@@ -12,7 +12,6 @@
 #include <QtCore/QUuid>
 #include <QtCore/QVarLengthArray>
 
-
 namespace Norvane {
 
 class VJsonTextArray;
