@@ -16,6 +16,7 @@
 namespace Norvane::Database {
 
 class VDBRecordData;
+class VDBSalvage;
 class VDBTextPrivate;
 
 /// One record of a text database: fields in order, each a key and a value.
@@ -61,6 +62,7 @@ public:
     static QString cultureKey();
 
 private:
+    friend class VDBSalvage;
     friend class VDBTextPrivate;
     QSharedDataPointer<VDBRecordData> d;
 };
