@@ -10,6 +10,7 @@
 #include "support/Tool.h"
 
 #include "CopyCheck.h"
+#include "Progress.h"
 
 #include <QtTest/QTest>
 
@@ -311,10 +312,12 @@ void tst_backup::verification_seesEveryDifference()
 {
     using namespace Norvane::Kilnjet::Tool;
     const StoreSettings copy{path(u"Printers.tdb"_s), QString(), {}};
-    verifyCopy(printers({u"A"_s, u"B"_s, u"C"_s}), copy);
-    const auto whyNot = [&copy](const QList<Support::VPrinterDriver> &machines) {
+    Console console(Console::Format::Json);
+    Progress progress(console, QString());
+    verifyCopy(printers({u"A"_s, u"B"_s, u"C"_s}), copy, progress);
+    const auto whyNot = [&](const QList<Support::VPrinterDriver> &machines) {
         try {
-            verifyCopy(machines, copy);
+            verifyCopy(machines, copy, progress);
         } catch (const Failure &failure) {
             return failure.code == ExitCode::Io ? failure.why : u"another code"_s;
         }

@@ -3,7 +3,7 @@
 
 #include "Catalogue.h"
 
-#include "Console.h"
+#include "Progress.h"
 #include "Text.h"
 
 #include <QtCore/QFileInfo>
@@ -49,19 +49,21 @@ QList<VPrinterDriver> byName(QList<VPrinterDriver> machines)
 }
 
 Catalogue::Catalogue(const StoreSettings &settings, Mode mode, Console &console)
-    : m_settings(settings)
+    : m_console(console)
+    , m_settings(settings)
     , m_mode(mode)
     , m_file(settings.path)
 {
+    const Progress progress(console, u"loading "_s + settings.path);
     const bool edits = mode == Mode::Edit || mode == Mode::EditOrCreate;
     m_survey = surveyStore(settings, edits ? Access::Write : Access::Read);
     const bool mayBeAbsent = mode == Mode::EditOrCreate || mode == Mode::ReadIfThere;
     if (m_survey.status != VDBStatus::Ok && !(mayBeAbsent && isAbsent(m_survey.status)))
         throw storeFailure(m_survey, settings.path);
-    load(console);
+    load();
 }
 
-void Catalogue::load(Console &console)
+void Catalogue::load()
 {
     if (m_mode == Mode::Edit || m_mode == Mode::EditOrCreate) {
         m_database = std::make_unique<VPrintersDb>(m_settings.path, m_settings.key);
@@ -85,11 +87,11 @@ void Catalogue::load(Console &console)
     m_leftOut = m_survey.count - m_database->count();
     const QString hint = u"'kilnjet verify %1' tells more"_s.arg(m_settings.path);
     if (m_leftOut > 0) {
-        console.warn(
+        m_console.warn(
             m_settings.path,
             u"%1 left out, because it cannot be read"_s.arg(counted(m_leftOut, u"record"_s)), hint);
     } else if (isDamaged(m_survey)) {
-        console.warn(m_settings.path, u"parts of the file are damaged"_s, hint);
+        m_console.warn(m_settings.path, u"parts of the file are damaged"_s, hint);
     }
 }
 
@@ -100,6 +102,7 @@ QList<VPrinterDriver> Catalogue::machines()
 
 void Catalogue::commit()
 {
+    const Progress progress(m_console, u"writing "_s + m_settings.path);
     bool isCommitted = false;
     QObject::connect(m_database.get(), &VPrintersDb::committed, [&] { isCommitted = true; });
     const bool isDirty = m_database->isDirty();

@@ -52,8 +52,9 @@ public:
     void commit();
 
 private:
-    void load(Console &console);
+    void load();
 
+    Console &m_console;
     StoreSettings m_settings;
     Mode m_mode;
     QFile m_file;

@@ -308,6 +308,7 @@ const QList<Option> &globalOptions()
         {"--wait"_L1, ""_L1, "SECONDS"_L1,
          "how long to wait for another process that holds the database (10)"_L1},
         {"--json"_L1, ""_L1, ""_L1, "write data and messages as JSON"_L1},
+        {"--quiet"_L1, "-q"_L1, ""_L1, "show no progress on the terminal"_L1},
         {"--help"_L1, "-h"_L1, ""_L1, "show this help"_L1},
         {"--version"_L1, ""_L1, ""_L1, "show the tool's version"_L1},
     };

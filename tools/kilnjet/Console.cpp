@@ -3,6 +3,7 @@
 
 #include "Console.h"
 
+#include "ProgressLine.h"
 #include "Text.h"
 
 #include <QtCore/QJsonDocument>
@@ -40,16 +41,16 @@ void prepareStandardStreams()
 #endif
 }
 
-/// True when standard output is a terminal that obeys escape sequences.
-bool isTerminal()
+/// True when the stream is a terminal that obeys escape sequences.
+bool isTerminal(std::FILE *stream)
 {
 #ifdef Q_OS_WIN
-    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    const HANDLE output = HANDLE(_get_osfhandle(_fileno(stream)));
     DWORD mode = 0;
     return GetConsoleMode(output, &mode) != 0
         && SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 #else
-    return ::isatty(STDOUT_FILENO) == 1 && qgetenv("TERM") != "dumb";
+    return ::isatty(fileno(stream)) == 1 && qgetenv("TERM") != "dumb";
 #endif
 }
 
@@ -97,8 +98,14 @@ Console::Console(Format format)
 
 Colour Console::colour() const
 {
-    const bool isWanted = !isJson() && qEnvironmentVariableIsEmpty("NO_COLOR") && isTerminal();
+    const bool isWanted =
+        !isJson() && qEnvironmentVariableIsEmpty("NO_COLOR") && isTerminal(stdout);
     return isWanted ? Colour::On : Colour::Off;
+}
+
+std::FILE *Console::screen() const
+{
+    return !isJson() && !m_isQuiet && isTerminal(stderr) ? stderr : nullptr;
 }
 
 void Console::write(const QString &text)
@@ -168,8 +175,16 @@ bool Console::finish()
     return false;
 }
 
+/// Takes the progress away, which may stand where the next words go.
+void Console::makeRoom()
+{
+    if (m_progress != nullptr)
+        m_progress->clear();
+}
+
 void Console::flush()
 {
+    makeRoom();
     if (m_error == 0 && !m_pending.isEmpty()) {
         const size_t size = size_t(m_pending.size());
         if (std::fwrite(m_pending.constData(), 1, size, stdout) != size
@@ -183,6 +198,7 @@ void Console::flush()
 void Console::writeMessage(const QString &text)
 {
     const QByteArray line = printable(text).toUtf8() + '\n';
+    makeRoom();
     // A message that cannot be written has nowhere else to go.
     std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
 }
@@ -190,6 +206,7 @@ void Console::writeMessage(const QString &text)
 void Console::writeMessage(const QJsonObject &object)
 {
     const QByteArray line = safeJson(QJsonDocument(object), QJsonDocument::Compact) + '\n';
+    makeRoom();
     std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
 }
 

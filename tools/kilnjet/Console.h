@@ -12,7 +12,11 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 
+#include <cstdio>
+
 namespace Norvane::Kilnjet::Tool {
+
+class ProgressLine;
 
 /// Where a command's words go: data to standard output, messages to standard error, as text for
 /// people or as JSON.
@@ -31,6 +35,14 @@ public:
     bool isJson() const { return m_format == Format::Json; }
     /// On when people read the data on a terminal, unless the environment variable NO_COLOR is set.
     Colour colour() const;
+
+    /// The terminal on which progress can be shown; null when messages go elsewhere, are JSON, or
+    /// after beQuiet().
+    std::FILE *screen() const;
+    void beQuiet() { m_isQuiet = true; }
+    /// What is drawn there at present; null for nothing. Whatever is written goes before it.
+    ProgressLine *progressLine() const { return m_progress; }
+    void setProgressLine(ProgressLine *line) { m_progress = line; }
 
     /// Writes data. The caller has made text that came from elsewhere printable().
     void write(const QString &text);
@@ -53,7 +65,11 @@ private:
     void writeMessage(const QString &text);
     void writeMessage(const QJsonObject &object);
 
+    void makeRoom();
+
     Format m_format;
+    bool m_isQuiet = false;
+    ProgressLine *m_progress = nullptr;
     QByteArray m_pending;
     int m_error = 0; ///< The system's number for the first write that failed.
 };

@@ -4,6 +4,7 @@
 #include "CopyCheck.h"
 
 #include "ChangePlan.h"
+#include "Progress.h"
 #include "Text.h"
 
 #include <QtCore/QHash>
@@ -28,13 +29,14 @@ struct Inequality
     }
 };
 
-Inequality compare(const QList<VPrinterDriver> &machines, const StoreSettings &copy)
+Inequality compare(const QList<VPrinterDriver> &machines, const StoreSettings &copy,
+                   Progress &progress)
 {
     QHash<QUuid, VPrinterDriver> expected;
     for (const VPrinterDriver &machine : machines)
         expected.insert(machine.dataId(), machine);
     Inequality found;
-    visitStore(copy, [&](const StoredRecord &record) {
+    visitStore(copy, progress, [&](const StoredRecord &record) {
         if (!record.driver) {
             ++found.unreadable;
             return;
@@ -68,9 +70,10 @@ QString textOf(const Inequality &found)
 
 } // namespace
 
-void verifyCopy(const QList<VPrinterDriver> &machines, const StoreSettings &copy)
+void verifyCopy(const QList<VPrinterDriver> &machines, const StoreSettings &copy,
+                Progress &progress)
 {
-    const Inequality found = compare(machines, copy);
+    const Inequality found = compare(machines, copy, progress);
     if (found.isEmpty())
         return;
     const bool isDamaged = !found.missing.isEmpty() || !found.different.isEmpty();

@@ -9,6 +9,7 @@ namespace Norvane::Kilnjet::Tool {
 
 /// Opens the file anew and compares it with the machines that it should hold, ids and contents;
 /// throws a Failure with ExitCode::Io when it does not hold these and nothing else.
-void verifyCopy(const QList<VPrinterDriver> &machines, const StoreSettings &copy);
+void verifyCopy(const QList<VPrinterDriver> &machines, const StoreSettings &copy,
+                Progress &progress);
 
 } // namespace Norvane::Kilnjet::Tool

@@ -38,6 +38,8 @@ ExitCode runCommand(const QStringList &arguments, Console &console)
 {
     try {
         const Invocation invocation = parseArguments(arguments);
+        if (invocation.has("--quiet"_L1))
+            console.beQuiet();
         if (invocation.has("--help"_L1))
             return showHelp(invocation.command, console);
         if (invocation.has("--version"_L1))

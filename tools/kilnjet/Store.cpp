@@ -4,6 +4,7 @@
 #include "Store.h"
 
 #include "Invocation.h"
+#include "Progress.h"
 #include "RecordFile.h"
 #include "RecordSchema.h"
 #include "Text.h"
@@ -97,7 +98,21 @@ QString whyNoDriver(const QByteArray &json, const Hardware::Interfaces::IVDevice
     return u"its field \"driver\" is no record of a known kind"_s;
 }
 
-StoredRecord judged(const VDBRecord &record)
+} // namespace
+
+StoreSettings StoreSettings::from(const Invocation &invocation)
+{
+    StoreSettings settings;
+    settings.path = invocation.value("--db"_L1, VPrintersDb::defaultFilename());
+    if (settings.path.isEmpty())
+        throw Failure{.code = ExitCode::Usage, .where = u"--db"_s, .what = u"the name is empty"_s};
+    if (invocation.has("--key-file"_L1))
+        settings.key = keyFrom(invocation.value("--key-file"_L1));
+    settings.wait = waitFrom(invocation);
+    return settings;
+}
+
+StoredRecord judgedByContent(const VDBRecord &record)
 {
     const auto text = [&record](const VDBField &field) {
         const QVariant culture = record.search(VDBRecord::cultureKey()).value();
@@ -108,9 +123,7 @@ StoredRecord judged(const VDBRecord &record)
     const VDBField id = record.search(u"id"_s);
     const VDBField driver = record.search(u"driver"_s);
     StoredRecord result{.line = record.line(), .id = text(id), .json = text(driver).toUtf8()};
-    if (!record.checkSignature())
-        result.reason = u"its signature does not match its content"_s;
-    else if (!id.isFound() || id.value().isNull())
+    if (!id.isFound() || id.value().isNull())
         result.reason = u"it has no field \"id\""_s;
     else if (QUuid(result.id).isNull())
         result.reason = u"its field \"id\" is no id"_s;
@@ -131,18 +144,14 @@ StoredRecord judged(const VDBRecord &record)
     return result;
 }
 
-} // namespace
-
-StoreSettings StoreSettings::from(const Invocation &invocation)
+StoredRecord judged(const VDBRecord &record)
 {
-    StoreSettings settings;
-    settings.path = invocation.value("--db"_L1, VPrintersDb::defaultFilename());
-    if (settings.path.isEmpty())
-        throw Failure{.code = ExitCode::Usage, .where = u"--db"_s, .what = u"the name is empty"_s};
-    if (invocation.has("--key-file"_L1))
-        settings.key = keyFrom(invocation.value("--key-file"_L1));
-    settings.wait = waitFrom(invocation);
-    return settings;
+    StoredRecord result = judgedByContent(record);
+    if (!record.checkSignature()) {
+        result.driver.reset();
+        result.reason = u"its signature does not match its content"_s;
+    }
+    return result;
 }
 
 bool isHarmless(VDBDamage::Reason reason)
@@ -216,7 +225,7 @@ Failure storeFailure(const StoreSurvey &survey, const QString &path)
     return failure;
 }
 
-StoreSurvey visitStore(const StoreSettings &settings,
+StoreSurvey visitStore(const StoreSettings &settings, Progress &progress,
                        const std::function<void(const StoredRecord &record)> &visit)
 {
     QFile file(settings.path);
@@ -224,9 +233,12 @@ StoreSurvey visitStore(const StoreSettings &settings,
     const StoreSurvey survey = openStore(store, file, settings, Access::Read);
     if (survey.status != VDBStatus::Ok)
         throw storeFailure(survey, settings.path);
+    progress.begin(survey.count);
     VDBRecord record;
-    for (store.first(record); !record.isNull(); store.next(record))
+    for (store.first(record); !record.isNull(); store.next(record)) {
         visit(judged(record));
+        progress.advance();
+    }
     store.close();
     return survey;
 }
@@ -252,6 +264,25 @@ Compaction compactStore(const StoreSettings &settings)
                   .why = error.isEmpty() ? u"the system refused it"_s : error,
                   .hint = u"nothing is lost; the new file is made beside the old one, so its "
                           "folder must allow that and have room for it"_s};
+}
+
+void insertRecords(const QList<VDBRecord> &records, const StoreSettings &settings)
+{
+    QFile file(settings.path);
+    VDBText store;
+    const StoreSurvey survey = openStore(store, file, settings, Access::Write);
+    if (survey.status != VDBStatus::Ok)
+        throw storeFailure(survey, settings.path);
+    const bool areTaken = std::all_of(records.begin(), records.end(), [&store](const auto &record) {
+        return store.insert(record);
+    });
+    store.close();
+    if (!areTaken || !store.wasDurable()) {
+        throw Failure{.code = ExitCode::Io,
+                      .where = settings.path,
+                      .what = u"cannot write the records"_s,
+                      .why = store.errorString()};
+    }
 }
 
 bool isStore(const QByteArray &text)

@@ -18,6 +18,7 @@
 
 namespace Norvane::Kilnjet::Tool {
 
+class Progress;
 struct Invocation;
 
 /// Which database a command works on, and how.
@@ -69,6 +70,9 @@ struct Compaction
 
 /// Drops from the file what is no longer live; throws a Failure, and nothing is lost then.
 Compaction compactStore(const StoreSettings &settings);
+/// Writes the records, as they are, into a database in one batch; throws a Failure, and the
+/// database is as it was then.
+void insertRecords(const QList<Database::VDBRecord> &records, const StoreSettings &settings);
 
 /// One record as it is stored.
 struct StoredRecord
@@ -81,9 +85,14 @@ struct StoredRecord
     QString reason = {}; ///< Why it is left out.
 };
 
-/// Calls `visit` for every live record of the file, in file order, judged by the rules by which
-/// VPrintersDb takes records in. Throws a Failure when the file cannot be opened.
-StoreSurvey visitStore(const StoreSettings &settings,
+/// Judges a record by the rules by which VPrintersDb takes records in.
+StoredRecord judged(const Database::VDBRecord &record);
+/// Likewise, but whatever its signature says.
+StoredRecord judgedByContent(const Database::VDBRecord &record);
+
+/// Calls `visit` for every live record of the file, in file order. Throws a Failure when the file
+/// cannot be opened.
+StoreSurvey visitStore(const StoreSettings &settings, Progress &progress,
                        const std::function<void(const StoredRecord &record)> &visit);
 
 /// True when `text` is the beginning of a database file.

@@ -9,6 +9,7 @@
 #include "Invocation.h"
 #include "NewFile.h"
 #include "Paths.h"
+#include "Progress.h"
 #include "Text.h"
 
 #include <optional>
@@ -30,8 +31,9 @@ struct Request
 };
 
 /// What stands at the copy's place is a database that we may change, or nothing yet.
-bool hasOlderCopy(const StoreSettings &copy)
+bool hasOlderCopy(const StoreSettings &copy, Console &console)
 {
+    const Progress progress(console, u"opening "_s + copy.path);
     const StoreSurvey survey = surveyStore(copy, Access::Write);
     if (survey.status == VDBStatus::NotFound || survey.status == VDBStatus::Empty)
         return false;
@@ -52,8 +54,10 @@ ChangePlan store(const QList<VPrinterDriver> &machines, const StoreSettings &set
         const ChangePlan plan = ChangePlan::of(machines, copy.database());
         copy.database().insert(plan.added + plan.replaced);
         copy.commit();
-        if (request.isVerified)
-            verifyCopy(machines, settings);
+        if (request.isVerified) {
+            Progress progress(console, u"comparing "_s + request.copy.path);
+            verifyCopy(machines, settings, progress);
+        }
         return plan;
     } catch (Failure &failure) {
         // The user knows the place, not the file beside it.
@@ -64,7 +68,7 @@ ChangePlan store(const QList<VPrinterDriver> &machines, const StoreSettings &set
 
 ChangePlan copyTo(const Request &request, const QList<VPrinterDriver> &machines, Console &console)
 {
-    if (hasOlderCopy(request.copy) && !request.isReplacement)
+    if (hasOlderCopy(request.copy, console) && !request.isReplacement)
         return store(machines, request.copy, request, console);
     NewFile fresh(request.copy.path);
     StoreSettings settings = request.copy;

@@ -7,6 +7,7 @@
 #include "Commands.h"
 #include "Console.h"
 #include "Invocation.h"
+#include "Progress.h"
 #include "Text.h"
 
 using namespace Qt::StringLiterals;
@@ -19,8 +20,10 @@ namespace {
 QList<VPrinterDriver> acceptedRecords(const QStringList &names, Console &console)
 {
     QList<CheckedFile> files;
-    for (const QString &name : names)
+    for (const QString &name : names) {
+        const Progress progress(console, u"checking "_s + name);
         files.append(checkFile(name, RecordFile::readAll(name)));
+    }
     findRepeats(files);
 
     Findings findings;

@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "Console.h"
 #include "Invocation.h"
+#include "Progress.h"
 #include "Store.h"
 #include "Text.h"
 
@@ -37,7 +38,10 @@ void warnOfDamage(const QString &path, const StoreSurvey &survey, Console &conso
 ExitCode runPurge(const Invocation &invocation, Console &console)
 {
     const StoreSettings settings = StoreSettings::from(invocation);
-    const Compaction done = compactStore(settings);
+    const Compaction done = [&] {
+        const Progress progress(console, u"compacting "_s + settings.path);
+        return compactStore(settings);
+    }();
     warnOfDamage(settings.path, done.survey, console);
     if (console.isJson()) {
         console.write(QJsonObject{{u"file"_s, settings.path},

@@ -7,6 +7,7 @@
 #include "Console.h"
 #include "Invocation.h"
 #include "Paths.h"
+#include "Progress.h"
 #include "Text.h"
 
 using namespace Qt::StringLiterals;
@@ -53,6 +54,7 @@ Failure backupFailure(const StoreSurvey &survey, const QString &path)
 /// The settings with the key with which the backup can be read; throws a Failure when it cannot.
 StoreSettings readable(const Request &request, Console &console)
 {
+    const Progress progress(console, u"opening "_s + request.backup.path);
     StoreSettings settings = request.backup;
     StoreSurvey survey = surveyStore(settings, Access::Read);
     if (survey.status == VDBStatus::WrongKey && request.takesAnyKey) {

@@ -5,6 +5,7 @@
 #include "Commands.h"
 #include "Console.h"
 #include "Invocation.h"
+#include "Progress.h"
 #include "Store.h"
 #include "Text.h"
 
@@ -33,7 +34,7 @@ Outcome validateRecords(const QString &name, const QByteArray &text)
     return {file.source.name(), u"records"_s, file.source.records().size(), file.findings};
 }
 
-Outcome validateStore(StoreSettings settings, const QString &name)
+Outcome validateStore(StoreSettings settings, const QString &name, Progress &progress)
 {
     settings.path = name;
     Outcome outcome{name, u"database"_s, 0, {}};
@@ -50,7 +51,7 @@ Outcome validateStore(StoreSettings settings, const QString &name)
         }
         outcome.findings += findings;
     };
-    outcome.count = visitStore(settings, visit).count;
+    outcome.count = visitStore(settings, progress, visit).count;
     return outcome;
 }
 
@@ -84,9 +85,11 @@ ExitCode runValidate(const Invocation &invocation, Console &console)
     QList<Outcome> outcomes;
     ExitCode code = ExitCode::Done;
     for (const QString &name : invocation.operands) {
+        Progress progress(console, u"validating "_s + name);
         const QByteArray text = RecordFile::readAll(name);
         const bool stored = !RecordFile::isStandardInput(name) && isStore(text);
-        outcomes.append(stored ? validateStore(settings, name) : validateRecords(name, text));
+        outcomes.append(stored ? validateStore(settings, name, progress)
+                               : validateRecords(name, text));
         if (hasErrors(outcomes.constLast().findings))
             code = ExitCode::Finding;
     }

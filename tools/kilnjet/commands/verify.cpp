@@ -3,7 +3,9 @@
 
 #include "Commands.h"
 #include "Console.h"
+#include "DamageText.h"
 #include "Invocation.h"
+#include "Progress.h"
 #include "Store.h"
 #include "Text.h"
 
@@ -25,36 +27,6 @@ struct Verdict
     QList<StoredRecord> leftOut;
 };
 
-struct DamageText
-{
-    VDBDamage::Reason reason;
-    QLatin1StringView name; ///< In JSON.
-    QLatin1StringView text;
-};
-
-constexpr DamageText kDamageTexts[] = {
-    {VDBDamage::Reason::BadSignature, "badSignature"_L1,
-     "the signature of this record does not match its content"_L1},
-    {VDBDamage::Reason::NotALine, "notALine"_L1, "these bytes are no line of a database"_L1},
-    {VDBDamage::Reason::BadLineEnd, "badLineEnd"_L1,
-     "this line does not end as it should; nothing is lost"_L1},
-    {VDBDamage::Reason::BadHeader, "badHeader"_L1,
-     "one copy of the header is damaged or out of place"_L1},
-    {VDBDamage::Reason::BadCommit, "badCommit"_L1,
-     "the end of a batch does not match its records"_L1},
-    {VDBDamage::Reason::Unfinished, "unfinished"_L1,
-     "a batch was never completed; it does not count"_L1},
-};
-
-const DamageText &textOf(VDBDamage::Reason reason)
-{
-    for (const DamageText &text : kDamageTexts) {
-        if (text.reason == reason)
-            return text;
-    }
-    return kDamageTexts[1];
-}
-
 QJsonObject toJsonObject(const Verdict &verdict)
 {
     QJsonArray leftOut;
@@ -64,12 +36,9 @@ QJsonObject toJsonObject(const Verdict &verdict)
     }
     QJsonArray damage;
     for (const VDBDamage &part : verdict.survey.damage) {
-        damage.append(QJsonObject{{u"offset"_s, part.offset},
-                                  {u"size"_s, part.size},
-                                  {u"line"_s, part.line},
-                                  {u"id"_s, part.id},
-                                  {u"reason"_s, QString(textOf(part.reason).name)},
-                                  {u"harmless"_s, isHarmless(part.reason)}});
+        QJsonObject object = damageObject(part);
+        object.insert("harmless"_L1, isHarmless(part.reason));
+        damage.append(object);
     }
     return {{u"file"_s, verdict.file},
             {u"keyed"_s, verdict.survey.isKeyed},
@@ -78,28 +47,19 @@ QJsonObject toJsonObject(const Verdict &verdict)
             {u"damage"_s, damage}};
 }
 
-/// "Printers.tdb:12: record {...}: text", safe for a terminal.
-QString lineText(const QString &file, qint64 line, const QString &id, const QString &text)
-{
-    const QString record = id.isEmpty() ? QString() : u" record %1:"_s.arg(id);
-    return printable(u"%1:%2:%3 %4"_s.arg(file, QString::number(line), record, text)) + u'\n';
-}
-
 QString toText(const Verdict &verdict)
 {
     QString text;
     QSet<qint64> named;
     for (const StoredRecord &record : verdict.leftOut) {
-        text += lineText(verdict.file, record.line, record.id, u"left out: "_s + record.reason);
+        text += placeText(verdict.file, record.line, record.id, u"left out: "_s + record.reason);
         named.insert(record.line);
     }
     for (const VDBDamage &part : verdict.survey.damage) {
         // A left-out record has been named already.
         if (part.reason == VDBDamage::Reason::BadSignature && named.contains(part.line))
             continue;
-        const QString place =
-            u"offset %1, %2: "_s.arg(QString::number(part.offset), counted(part.size, u"byte"_s));
-        text += lineText(verdict.file, part.line, part.id, place + textOf(part.reason).text);
+        text += placeText(verdict.file, part.line, part.id, extentText(part));
     }
     return text
         + u"%1: %2, %3 left out, %4 damaged\n"_s.arg(
@@ -118,6 +78,17 @@ ExitCode codeOf(const Verdict &verdict)
     return clean ? ExitCode::Done : ExitCode::Finding;
 }
 
+Verdict verify(const StoreSettings &settings, Console &console)
+{
+    Progress progress(console, u"verifying "_s + settings.path);
+    Verdict verdict{settings.path, {}, {}};
+    verdict.survey = visitStore(settings, progress, [&verdict](const StoredRecord &record) {
+        if (!record.driver)
+            verdict.leftOut.append(record);
+    });
+    return verdict;
+}
+
 } // namespace
 
 ExitCode runVerify(const Invocation &invocation, Console &console)
@@ -131,11 +102,7 @@ ExitCode runVerify(const Invocation &invocation, Console &console)
         }
         settings.path = invocation.operands.first();
     }
-    Verdict verdict{settings.path, {}, {}};
-    verdict.survey = visitStore(settings, [&verdict](const StoredRecord &record) {
-        if (!record.driver)
-            verdict.leftOut.append(record);
-    });
+    const Verdict verdict = verify(settings, console);
     if (console.isJson())
         console.write(toJsonObject(verdict));
     else
