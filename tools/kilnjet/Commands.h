@@ -20,6 +20,7 @@ ExitCode runImport(const Invocation &invocation, Console &console);
 ExitCode runList(const Invocation &invocation, Console &console);
 ExitCode runPurge(const Invocation &invocation, Console &console);
 ExitCode runQuery(const Invocation &invocation, Console &console);
+ExitCode runRecover(const Invocation &invocation, Console &console);
 ExitCode runReindex(const Invocation &invocation, Console &console);
 ExitCode runRemove(const Invocation &invocation, Console &console);
 ExitCode runRename(const Invocation &invocation, Console &console);

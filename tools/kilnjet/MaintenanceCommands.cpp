@@ -123,11 +123,45 @@ Command reindexCommand()
     };
 }
 
+Command recoverCommand()
+{
+    return {
+        .name = "recover"_L1,
+        .summary = "Carry what is readable in a damaged database into a new one"_L1,
+        .description =
+            "For files that other commands refuse or find damaged: without a sound header, with "
+            "overwritten or missing parts, cut off, joined from pieces, converted by an editor. "
+            "The damaged file is only read. NEW must not exist yet.\n"
+            "Every place where a record may begin is tried. Carried is the last sound version of "
+            "each record, byte for byte, unless a completed batch removes it; also from a batch "
+            "whose end is missing. What is not carried is reported with its offset, its length "
+            "and the reason, and whether another version of the record was carried.\n"
+            "With --unproven a record whose sum does not match is carried, too, when no sound "
+            "version is left, it still is a driver, and its content id is that of its id field: "
+            "its name or its children may have changed, so look at it.\n"
+            "With the key of a keyed file, its codes are checked and the new file is keyed; "
+            "without it, sums alone are checked and the new file has no key."_L1,
+        .operands = {{"DAMAGED"_L1, 1, 1, "the damaged file"_L1},
+                     {"NEW"_L1, 1, 1, "the file to be made"_L1}},
+        .options = {{"--unproven"_L1, ""_L1, ""_L1,
+                     "carry damaged records, too, whose content id is right"_L1}},
+        .exitCodes = {{ExitCode::Done, "every record was carried"_L1},
+                      {ExitCode::Finding,
+                       "the new file was made, but something is lost, or carried without proof"_L1},
+                      {ExitCode::Damaged,
+                       "nothing in the file is readable, or it is of a newer format"_L1}},
+        .examples = {{"recover Printers.tdb rescued.tdb"_L1, "save what is left"_L1},
+                     {"recover Printers.tdb rescued.tdb --json --unproven"_L1,
+                      "save more, and list all of it"_L1}},
+        .run = runRecover,
+    };
+}
+
 } // namespace
 
 QList<Command> maintenanceCommands()
 {
-    return {backupCommand(), restoreCommand(), purgeCommand(), reindexCommand()};
+    return {backupCommand(), restoreCommand(), purgeCommand(), reindexCommand(), recoverCommand()};
 }
 
 } // namespace Norvane::Kilnjet::Tool
