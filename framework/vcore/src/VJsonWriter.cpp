@@ -10,13 +10,12 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 
 namespace Norvane {
 
 namespace {
 
-/// As much as a record with some children takes.
-constexpr qsizetype kUsualSize = 8192;
 /// Up to here QJsonValue keeps whole numbers as such: 2 to the power of 53.
 constexpr double kLargestWhole = 9007199254740992.0;
 
@@ -47,7 +46,7 @@ bool isPlain(char16_t c)
     return c >= 0x20 && c < 0x80 && c != u'"' && c != u'\\';
 }
 
-void appendEscape(QByteArray &text, char16_t c)
+void appendEscape(std::string &text, char16_t c)
 {
     text += '\\';
     if (const char letter = shortEscape(c)) {
@@ -60,7 +59,7 @@ void appendEscape(QByteArray &text, char16_t c)
 }
 
 /// Appends what follows the plain characters at the start of a string.
-void appendFrom(QByteArray &text, QStringView rest)
+void appendFrom(std::string &text, QStringView rest)
 {
     for (qsizetype i = 0; i < rest.size(); ++i) {
         const QChar c = rest.at(i);
@@ -69,44 +68,28 @@ void appendFrom(QByteArray &text, QStringView rest)
         if (isPlain(c.unicode())) {
             text += char(c.unicode());
         } else if (isPair) {
-            text += rest.sliced(i++, 2).toUtf8();
+            text += rest.sliced(i++, 2).toUtf8().toStdString();
         } else if (c.isSurrogate() || c.unicode() < 0x80) {
             appendEscape(text, c.unicode());
         } else {
-            text += rest.sliced(i, 1).toUtf8();
+            text += rest.sliced(i, 1).toUtf8().toStdString();
         }
     }
 }
 
+void appendWhole(std::string &text, qint64 value)
+{
+    std::array<char, 24> digits{};
+    text.append(digits.begin(), std::to_chars(digits.begin(), digits.end(), value).ptr);
+}
+
 } // namespace
-
-void VJsonTextWriter::open(char bracket)
-{
-    if (m_text.isNull())
-        m_text.reserve(kUsualSize);
-    separate();
-    m_text += bracket;
-    m_needsComma = false;
-}
-
-void VJsonTextWriter::close(char bracket)
-{
-    m_text += bracket;
-    m_needsComma = true;
-}
-
-/// Begins a value.
-void VJsonTextWriter::separate()
-{
-    if (m_needsComma)
-        m_text += ',';
-    m_needsComma = true;
-}
 
 void VJsonTextWriter::writeKey(QLatin1StringView key)
 {
     separate();
-    m_text.append('"').append(key.data(), key.size()).append("\":");
+    m_text += '"';
+    m_text.append(key.data(), std::size_t(key.size())).append("\":");
     m_needsComma = false;
 }
 
@@ -116,19 +99,17 @@ void VJsonTextWriter::append(const QString &value)
     m_text += '"';
     const auto *const special =
         std::find_if_not(value.begin(), value.end(), [](QChar c) { return isPlain(c.unicode()); });
-    const qsizetype plain = special - value.begin();
-    const qsizetype start = m_text.size();
-    m_text.resize(start + plain);
-    std::transform(value.begin(), special, m_text.begin() + start,
+    std::transform(value.begin(), special, std::back_inserter(m_text),
                    [](QChar c) { return char(c.unicode()); });
-    appendFrom(m_text, QStringView(value).sliced(plain));
+    appendFrom(m_text, QStringView(value).sliced(special - value.begin()));
     m_text += '"';
 }
 
 void VJsonTextWriter::appendPlain(const QByteArray &value)
 {
     separate();
-    m_text.append('"').append(value).append('"');
+    m_text += '"';
+    m_text.append(value.constData(), std::size_t(value.size())) += '"';
 }
 
 void VJsonTextWriter::append(bool value)
@@ -140,18 +121,16 @@ void VJsonTextWriter::append(bool value)
 void VJsonTextWriter::append(int value)
 {
     separate();
-    std::array<char, 16> digits{};
-    const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
-    m_text.append(digits.data(), end - digits.begin());
+    appendWhole(m_text, value);
 }
 
 void VJsonTextWriter::append(double value)
 {
     separate();
     if (value == std::trunc(value) && std::abs(value) <= kLargestWhole)
-        m_text += QByteArray::number(qint64(value));
+        appendWhole(m_text, qint64(value));
     else if (std::isfinite(value))
-        m_text += QByteArray::number(value, 'g', QLocale::FloatingPointShortest);
+        m_text += QByteArray::number(value, 'g', QLocale::FloatingPointShortest).toStdString();
     else
         m_text += "null";
 }
@@ -159,13 +138,13 @@ void VJsonTextWriter::append(double value)
 void VJsonTextWriter::append(const QJsonArray &value)
 {
     separate();
-    m_text += QJsonDocument(value).toJson(QJsonDocument::Compact);
+    m_text += QJsonDocument(value).toJson(QJsonDocument::Compact).toStdString();
 }
 
 void VJsonTextWriter::append(const QJsonObject &value)
 {
     separate();
-    m_text += QJsonDocument(value).toJson(QJsonDocument::Compact);
+    m_text += QJsonDocument(value).toJson(QJsonDocument::Compact).toStdString();
 }
 
 } // namespace Norvane

@@ -48,7 +48,12 @@ public:
     }
 
     /// The text of `value` for stored records: its name, else its number in the default locale.
-    QString textOf(E value) const { return toString(static_cast<U>(value), QLocale()); }
+    QString textOf(E value) const
+    {
+        // A name needs no locale, and to make one costs more than all the rest.
+        const QString name = names().name(qint64(value));
+        return name.isNull() ? toString(static_cast<U>(value), QLocale()) : name;
+    }
 
     /// The value named `text`, case-sensitively, in stored records; anything else is the value 0.
     E valueOf(const QString &text) const

@@ -40,6 +40,12 @@ public:
     /// one name and nothing else.
     std::optional<qint64> find(std::string_view name) const;
 
+    /// The written name of `number`; a null text without one.
+    QString name(qint64 number) const
+    {
+        const auto names = m_names.constFind(number);
+        return names == m_names.constEnd() ? QString() : names->constFirst();
+    }
     /// The name of `number`; without one, the number as `locale` writes it.
     QString toString(qint64 number, const QLocale &locale) const;
     /// As toString(); a number without a name of its own is written as the names of the flags that
