@@ -6,9 +6,13 @@
 #include "Progress.h"
 #include "Text.h"
 
+#include <vcore/VParallel.h>
+
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -39,13 +43,23 @@ Failure creationFailure(const QString &path)
 
 } // namespace
 
-QList<VPrinterDriver> byName(QList<VPrinterDriver> machines)
+QList<VPrinterDriver> byName(const QList<VPrinterDriver> &machines)
 {
-    std::stable_sort(machines.begin(), machines.end(),
-                     [](const VPrinterDriver &a, const VPrinterDriver &b) {
-                         return a.name().compare(b.name(), Qt::CaseInsensitive) < 0;
-                     });
-    return machines;
+    // The first look at a machine that was loaded decodes it, which all cores can share.
+    constexpr std::size_t kWorthAThread = 64;
+    std::vector<std::pair<QString, qsizetype>> names(std::size_t(machines.size()));
+    parallelFor(names.size(), kWorthAThread, [&](std::size_t begin, std::size_t end) {
+        for (std::size_t i = begin; i < end; ++i)
+            names[i] = {machines.at(qsizetype(i)).name(), qsizetype(i)};
+    });
+    std::stable_sort(names.begin(), names.end(), [](const auto &a, const auto &b) {
+        return a.first.compare(b.first, Qt::CaseInsensitive) < 0;
+    });
+    QList<VPrinterDriver> sorted;
+    sorted.reserve(machines.size());
+    for (const auto &[name, place] : names)
+        sorted.append(machines.at(place));
+    return sorted;
 }
 
 Catalogue::Catalogue(const StoreSettings &settings, Mode mode, Console &console)

@@ -16,7 +16,7 @@ namespace Norvane::Kilnjet::Tool {
 class Console;
 
 /// The machines, ordered by name without regard to case; those of one name stay in order.
-QList<VPrinterDriver> byName(QList<VPrinterDriver> machines);
+QList<VPrinterDriver> byName(const QList<VPrinterDriver> &machines);
 
 /// The printers database that a command works on.
 ///
