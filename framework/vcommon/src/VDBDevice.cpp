@@ -6,6 +6,7 @@
 #include <vcommon/IVDurableDevice.h>
 
 #include <QtCore/QBuffer>
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
@@ -50,6 +51,20 @@ void renew(QFileDevice *device)
     // A file of another class may have ideas of its own about its name.
     if (device->metaObject() == &QFile::staticMetaObject)
         static_cast<QFile *>(device)->setFileName(device->fileName());
+}
+
+/// Where the file that is to replace the one at `path` is written: always the same place, so that
+/// what a crash leaves there is found.
+QString freshPathOf(const QString &path)
+{
+    constexpr qsizetype kLongestName = 255; // In bytes; no usual file system has less.
+    const QString suffix = u".new"_s;
+    const QFileInfo info(path);
+    const QByteArray name = QFile::encodeName(info.fileName());
+    if (name.size() + suffix.size() <= kLongestName)
+        return path + suffix;
+    const QByteArray sum = QCryptographicHash::hash(name, QCryptographicHash::Blake2b_256);
+    return info.path() + u'/' + QString::fromLatin1(sum.toHex()) + suffix;
 }
 
 } // namespace
@@ -268,9 +283,9 @@ bool Device::swapFile(QFileDevice *fileDevice, const QByteArray &bytes)
 {
     // Behind a symbolic link the file itself is replaced, not the link.
     const QString path = QFileInfo(fileDevice->fileName()).canonicalFilePath();
-    QFile fresh(path + u".new"_s);
-    QFile::remove(
-        fresh.fileName()); // Left by a crash; nobody else writes it while we hold the lock.
+    QFile fresh(freshPathOf(path));
+    // Left by a crash; nobody else writes it while we hold the lock.
+    QFile::remove(fresh.fileName());
     const QIODevice::OpenMode mode = m_device->openMode();
     const auto giveUp = [&](const QString &error) {
         fresh.remove();
