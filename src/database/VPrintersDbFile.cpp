@@ -11,6 +11,7 @@
 #include <vcore/VLocale.h>
 #include <vcore/VParallel.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -112,7 +113,10 @@ void VPrintersDb::_commit()
         Q_EMIT error();
         return;
     }
-    writeDrivers(d->store, d->dirtyIds.values(), d->drivers);
+    // In order, so that equal content gives equal bytes.
+    QList<QUuid> ids = d->dirtyIds.values();
+    std::sort(ids.begin(), ids.end());
+    writeDrivers(d->store, ids, d->drivers);
     d->store.close();
     const bool written = d->store.wasDurable();
     if (written)
