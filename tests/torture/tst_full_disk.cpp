@@ -49,16 +49,22 @@ private:
 
 namespace {
 
+/// So many drivers take about as much room as half of the levels have.
+constexpr int kMany = 30;
+
+/// Drivers of about a block each; there are as many as kMany and one more.
 QList<VPrinterDriver> numbered(int first, int count)
 {
-    QList<VPrinterDriver> drivers;
-    for (int i = first; i < first + count; ++i)
-        drivers.append(printer(QString::number(i)));
-    return drivers;
+    static const QList<VPrinterDriver> all = [] {
+        QList<VPrinterDriver> drivers;
+        for (int i = 0; i <= kMany; ++i) {
+            drivers.append(printer(QString::number(i)));
+            drivers.last().setDescription(QString(3'300, u'x'));
+        }
+        return drivers;
+    }();
+    return all.mid(first, count);
 }
-
-/// About as large as half of the levels have room for.
-constexpr int kMany = 120;
 
 } // namespace
 
