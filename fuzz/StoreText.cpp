@@ -15,7 +15,7 @@ namespace Fuzz {
 namespace {
 
 constexpr auto kHash = QCryptographicHash::Blake2b_256;
-constexpr QByteArrayView kMagic("vdbtext\t1\t");
+constexpr QByteArrayView kMagic("vdbtext\t");
 
 QByteArray text(const QByteArray &digest)
 {
@@ -118,7 +118,7 @@ QByteArray signedAnew(QByteArrayView file, const QString &key, SignCommits commi
     qsizetype count = 0;
     for (QByteArray &line : lines) {
         const qsizetype begin = payloadAt(line);
-        if (line.startsWith("vdbtext\t") && line.contains("\tsum="))
+        if (line.startsWith(kMagic) && line.contains("\tsum="))
             line = signedHeader(line, lineKey);
         if (begin < 0)
             continue;
@@ -147,6 +147,8 @@ std::optional<QByteArray> keyFieldOf(QByteArrayView file)
         const qsizetype sumAt = line.lastIndexOf(QByteArrayView("\tsum="));
         if (sumAt < 0 || line.sliced(sumAt + 5) != sum(line.first(sumAt)))
             continue;
+        if (!line.startsWith("vdbtext\t1\t"))
+            return std::nullopt; // The version has another spelling.
         const qsizetype begin = line.indexOf(QByteArrayView("\tkey=")) + 5;
         const QByteArray name = line.sliced(begin, line.indexOf('\t', begin) - begin).toByteArray();
         const bool isPlain = begin >= 5 && std::all_of(name.begin(), name.end(), [](char c) {

@@ -40,8 +40,8 @@ enum class SignCommits
 /// SignCommits::Yes the commit lines also say what stands before them.
 QByteArray signedAnew(QByteArrayView file, const QString &key, SignCommits commits);
 
-/// The name of the key field, from the first sound copy of the header; nothing when it needs an
-/// escape or when no copy is found.
+/// The name of the key field, from the first sound copy of the header; nothing when no copy is
+/// found, or none that is spelt as we spell it.
 std::optional<QByteArray> keyFieldOf(QByteArrayView file);
 
 /// The key of the record whose line begins at `offset`, as the file spells it; nothing when it

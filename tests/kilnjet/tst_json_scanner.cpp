@@ -107,6 +107,9 @@ void tst_json_scanner::anythingElse_isRefusedWhereItGoesWrong_data()
     addRow("an overlong form", "[\"\xC0\xAF\"]", 2);
     addRow("a surrogate in UTF-8", "[\"\xED\xA0\x80\"]", 2);
     addRow("beyond Unicode", "[\"\xF5\x80\x80\x80\"]", 2);
+    addRow("a byte order mark in front of a text", "[\"\xEF\xBB\xBFLine 1\"]", 2);
+    addRow("a byte order mark as an escape", "[\"\\uFEFFLine 1\"]", 2);
+    addRow("a byte order mark in front of a key", "{\"\xEF\xBB\xBFname\":1}", 2);
     addRow("a stray byte", "[\"a\x80\"]", 3);
 }
 

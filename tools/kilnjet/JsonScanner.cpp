@@ -182,6 +182,12 @@ bool JsonScanner::scanArray()
 bool JsonScanner::scanString(QString *value)
 {
     ++m_at;
+    const QByteArrayView rest = m_text.sliced(m_at);
+    if (rest.startsWith("\xEF\xBB\xBF")
+        || rest.first(std::min(rest.size(), qsizetype(6))).toByteArray().toLower() == "\\ufeff") {
+        // Qt's parser drops it, so what is stored would not be what is written.
+        return fail(u"a byte order mark begins this text"_s);
+    }
     while (!atEnd() && peek() != '"') {
         const qsizetype begin = m_at;
         while (!atEnd() && peek() != '"' && peek() != '\\' && uchar(peek()) >= 0x20)
