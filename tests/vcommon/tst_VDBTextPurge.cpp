@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
+#include "support/Seed.h"
 #include "support/Store.h"
 
 #include <QtCore/QFile>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void purge_takesThePendingBatchIn();
     void purge_needsAnAccessForWriting();
     void purge_inAFolderThatTakesNoFileFailsAndHarmsNothing();
+    void purge_ofALongLivedStoreWritesWhatThatOfANewOneDoes();
     void reindex_readsTheFileAnew();
 };
 
@@ -198,6 +200,49 @@ void tst_VDBTextPurge::purge_inAFolderThatTakesNoFileFailsAndHarmsNothing()
     QVERIFY(commit(&other, {{u"B"_s, u"2"_s}})); // It does not hold the others up.
     QVERIFY(store.open(&file));
     QVERIFY(store.contains(u"B"_s));
+}
+
+// The one knows its file from its own commits, the other from reading it.
+void tst_VDBTextPurge::purge_ofALongLivedStoreWritesWhatThatOfANewOneDoes()
+{
+    QRandomGenerator random(Support::seed());
+    QTemporaryDir folder;
+    QFile file(folder.filePath(u"a.tdb"_s));
+    QFile copy(folder.filePath(u"copy.tdb"_s));
+    VDBText store;
+    QVERIFY(createStore(store, &file));
+    store.close();
+    for (int round = 0; round < 300; ++round) {
+        QVERIFY(store.open(&file));
+        for (int count = random.bounded(1, 40); count > 0; --count) {
+            const QString id = QString::number(random.bounded(100));
+            if (random.bounded(3) == 0)
+                store.remove(id);
+            else
+                store.insert(record(id, QString(random.bounded(100), u'x')));
+        }
+        store.close();
+        if (random.bounded(10) == 0) {
+            // Damage that the store comes to know by reading.
+            QByteArray bytes = contentOf(file.fileName());
+            bytes[bytes.lastIndexOf("text=") + 4] = '!';
+            bytes += "no line end";
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+            file.close();
+        }
+        if (random.bounded(10) != 0)
+            continue;
+        copy.remove();
+        QVERIFY(file.copy(copy.fileName()));
+        QVERIFY(purge(&copy));
+        QVERIFY(store.open(&file));
+        QVERIFY(store.purge());
+        QCOMPARE(contentOf(file.fileName()), contentOf(copy.fileName()));
+        const Seen seen = readStore(&copy);
+        for (int id = 0; id < 100; ++id)
+            QCOMPARE(store.contains(QString::number(id)), seen.sound.contains(QString::number(id)));
+        store.close();
+    }
 }
 
 void tst_VDBTextPurge::reindex_readsTheFileAnew()

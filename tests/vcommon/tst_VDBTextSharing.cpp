@@ -22,6 +22,7 @@ private Q_SLOTS:
     void readers_shareTheFile();
     void reader_keepsWritersOut();
     void open_waitsForTheFileAndGoesOn();
+    void stores_thatTakeTurnsSeeEachOther();
     void open_afterASwapSeesTheNewFile();
     void writers_inManyThreadsLoseNothing();
 
@@ -102,6 +103,31 @@ void tst_VDBTextSharing::open_waitsForTheFileAndGoesOn()
     waiting.join();
     QVERIFY(isCommitted);
     QCOMPARE(readStore(&one).sound.size(), 2);
+}
+
+// A batch that is written into filling changes neither the size of the file nor, within one tick of
+// the clock, its times.
+void tst_VDBTextSharing::stores_thatTakeTurnsSeeEachOther()
+{
+    constexpr int kTurns = 3000;
+    std::array<VDBText, 2> stores;
+    std::array<QFile, 2> files;
+    for (std::size_t i = 0; i < 2; ++i) {
+        stores[i].setKey({}, toWrite());
+        files[i].setFileName(m_path);
+    }
+    for (int turn = 0; turn < kTurns; ++turn) {
+        VDBText &store = stores[std::size_t(turn % 2)];
+        QVERIFY(store.open(&files[std::size_t(turn % 2)]));
+        QVERIFY(turn == 0 || store.contains(u"turn %1"_s.arg(turn - 1)));
+        QVERIFY(!store.contains(u"turn %1"_s.arg(turn - 2)));
+        store.remove(u"turn %1"_s.arg(turn - 1));
+        store.insert(record(u"turn %1"_s.arg(turn), u"x"_s));
+        if (turn % 100 == 99)
+            QVERIFY(store.purge());
+        store.close();
+        QVERIFY(store.wasDurable());
+    }
 }
 
 void tst_VDBTextSharing::open_afterASwapSeesTheNewFile()

@@ -3,9 +3,20 @@
 
 #include "VDBBatch.h"
 
+#include <vcore/VParallel.h>
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Database {
+
+namespace {
+
+/// Fewer lines than twice as many are signed sooner than a second thread starts.
+constexpr std::size_t kLeastLines = 32;
+
+} // namespace
 
 void Batch::clear()
 {
@@ -48,19 +59,41 @@ void Batch::remove(const QString &id, bool wasStored)
     }
 }
 
-QByteArray Batch::encode(const Signer &signer) const
+EncodedBatch Batch::encode(const Signer &signer, const QByteArray &before) const
 {
-    QByteArray bytes;
-    QByteArray sums;
-    for (const Change &change : m_changes) {
-        const QByteArray line = encodeLine(change.kind, change.payload, signer);
-        sums += splitLine(line)->sum.toByteArray();
-        bytes += line;
+    EncodedBatch encoded;
+    encoded.entries.resize(m_changes.size());
+    qint64 size = before.size();
+    for (std::size_t i = 0; i < m_changes.size(); ++i) {
+        const Change &change = m_changes[i];
+        Entry &entry = encoded.entries[i];
+        entry.offset = size;
+        entry.size = lineSize(change.payload.size(), signer) - 1;
+        entry.payloadAt = entry.size - change.payload.size();
+        entry.line = qint64(i);
+        entry.id = change.id;
+        entry.kind = change.kind;
+        entry.isSound = true;
+        size += entry.size + 1;
     }
-    return bytes + encodeCommit(m_changes.size(), sums, signer);
+    constexpr qsizetype kRest = 256; // A commit line and a seal are shorter.
+    encoded.bytes.reserve(size + kRest);
+    encoded.bytes.append(before).resize(size);
+    QByteArray sums(qsizetype(m_changes.size()) * kSumLength, Qt::Uninitialized);
+    char *const bytesAt = encoded.bytes.data();
+    char *const sumsAt = sums.data();
+    parallelFor(m_changes.size(), kLeastLines, [&](std::size_t begin, std::size_t end) {
+        for (std::size_t i = begin; i < end; ++i) {
+            Entry &entry = encoded.entries[i];
+            entry.sum = writeLine(bytesAt + entry.offset, entry.kind, m_changes[i].payload, signer);
+            std::copy(entry.sum.begin(), entry.sum.end(), sumsAt + i * kSumLength);
+        }
+    });
+    encoded.bytes += encodeCommit(m_changes.size(), sums, signer);
+    return encoded;
 }
 
-QByteArray encodeCommit(std::size_t count, const QByteArray &sums, const Signer &signer)
+QByteArray encodeCommit(std::size_t count, QByteArrayView sums, const Signer &signer)
 {
     const QByteArray payload =
         encodeFields({{u"lines"_s, QString::number(count)},

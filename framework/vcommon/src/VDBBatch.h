@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "VDBFormat.h"
+#include "VDBContents.h"
 
 #include <QtCore/QHash>
 
@@ -11,6 +11,14 @@
 #include <vector>
 
 namespace Norvane::Database {
+
+/// A batch as it goes to the file.
+struct EncodedBatch
+{
+    QByteArray bytes;
+    std::vector<Entry>
+        entries; ///< Its lines but the last; offsets and numbers count from its first.
+};
 
 /// The changes between open() and close(): for each key the last thing that was asked for.
 class Batch
@@ -24,16 +32,8 @@ public:
     void insert(const QString &id, const QByteArray &payload);
     /// `wasStored` tells whether there is something in the file to be removed.
     void remove(const QString &id, bool wasStored);
-    /// The keys that the batch leaves stored, and those that it removes.
-    template<typename Visitor>
-    void visit(Visitor visitor) const
-    {
-        for (const Change &change : m_changes)
-            visitor(change.id, change.kind == LineKind::Insert);
-    }
-
-    /// The lines of the batch with their commit line.
-    QByteArray encode(const Signer &signer) const;
+    /// The lines of the batch with their commit line, behind the bytes `before`.
+    EncodedBatch encode(const Signer &signer, const QByteArray &before) const;
 
 private:
     struct Change
@@ -48,6 +48,6 @@ private:
 };
 
 /// The commit line for `count` lines whose sums, in order, are `sums`.
-QByteArray encodeCommit(std::size_t count, const QByteArray &sums, const Signer &signer);
+QByteArray encodeCommit(std::size_t count, QByteArrayView sums, const Signer &signer);
 
 } // namespace Norvane::Database

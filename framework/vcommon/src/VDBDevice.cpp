@@ -4,19 +4,28 @@
 #include "VDBDevice.h"
 
 #include <vcommon/IVDurableDevice.h>
+#include <vcore/VParallel.h>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
 #include <new>
+#include <system_error>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Database {
 
 namespace {
+
+/// Content is read and copied in blocks of this size.
+constexpr qint64 kBlock = 1024 * 1024;
 
 QIODevice::OpenMode modeFor(Device::Intent intent)
 {
@@ -67,6 +76,28 @@ QString freshPathOf(const QString &path)
     return info.path() + u'/' + QString::fromLatin1(sum.toHex()) + suffix;
 }
 
+/// Reads a range of a file on all cores: most of the time goes into making fresh memory usable. How
+/// much it was, or -1.
+qint64 readFileParallel(int handle, qint64 at, char *to, qint64 size)
+{
+    std::atomic<qint64> end = size;
+    std::atomic<int> error = 0;
+    parallelFor(
+        std::size_t((size + kBlock - 1) / kBlock), 1, [&](std::size_t first, std::size_t last) {
+            const qint64 from = qint64(first) * kBlock;
+            const qint64 wanted = std::min(qint64(last) * kBlock, size) - from;
+            const qint64 got = readFileAt(handle, at + from, to + from, wanted);
+            if (got < 0)
+                error = errno;
+            for (qint64 known = end; got < wanted && known > from + std::max(got, qint64(0));)
+                end.compare_exchange_weak(known, from + std::max(got, qint64(0)));
+        });
+    if (error == 0)
+        return end;
+    errno = error;
+    return -1;
+}
+
 } // namespace
 
 QFileDevice *Device::file() const
@@ -85,6 +116,7 @@ VDBStatus Device::open(QIODevice *device, Intent intent, std::chrono::millisecon
     close();
     m_error.clear();
     m_hasCreated = false;
+    m_isAsReplaced = false;
     if (device == nullptr)
         return VDBStatus::NoDevice;
     m_foundMode = device->openMode();
@@ -201,35 +233,55 @@ std::optional<FileIdentity> Device::identity() const
 
 std::optional<QByteArray> Device::readAll()
 {
+    return read(0, m_device->size());
+}
+
+std::optional<QByteArray> Device::read(qint64 at, qint64 size)
+{
     QByteArray bytes;
     try {
-        if (!m_device->seek(0)) {
-            fail(m_device->errorString());
-            return std::nullopt;
-        }
-        bytes.resize(m_device->size());
+        bytes.resize(std::max(std::min(size, m_device->size() - at), qint64(0)));
     } catch (const std::bad_alloc &) {
         fail(u"not enough memory for the file"_s);
         return std::nullopt;
     }
+    return readInto(bytes, 0, at) ? std::optional(bytes) : std::nullopt;
+}
+
+/// Fills `bytes` behind the first `from` with the content at `at`; cuts it where content ends.
+bool Device::readInto(QByteArray &bytes, qsizetype from, qint64 at)
+{
+    if (!m_device->seek(at)) // Whoever opened the device may have left something to be flushed.
+        return fail(m_device->errorString());
+    const qint64 size = bytes.size() - from;
+    char *const to = bytes.data() + from;
+    if (file() != nullptr) {
+        const qint64 filled = readFileParallel(file()->handle(), at, to, size);
+        bytes.truncate(from + std::max(filled, qint64(0)));
+        return filled >= 0 || fail(lastFileError());
+    }
     qint64 filled = 0;
-    while (filled < bytes.size()) {
-        const qint64 got = m_device->read(bytes.data() + filled, bytes.size() - filled);
-        if (got < 0) {
-            fail(m_device->errorString());
-            return std::nullopt;
-        }
+    while (filled < size) {
+        const qint64 got = m_device->read(to + filled, size - filled);
+        if (got < 0)
+            return fail(m_device->errorString());
         if (got == 0)
             break;
         filled += got;
     }
-    bytes.truncate(filled);
-    return bytes;
+    bytes.truncate(from + filled);
+    return true;
 }
 
-bool Device::write(qint64 at, const QByteArray &bytes)
+bool Device::write(qint64 at, QByteArrayView bytes)
 {
     return (m_device->seek(at) && writeAll(*m_device, bytes)) || fail(m_device->errorString());
+}
+
+void Device::fillAhead(qint64 at, qint64 size)
+{
+    if (file() != nullptr && m_device->seek(at))
+        std::ignore = writeAll(*m_device, QByteArray(size, '\n'));
 }
 
 bool Device::sync()
@@ -262,24 +314,57 @@ void Device::removeCreated()
         QFile::remove(file()->fileName());
 }
 
-bool Device::replaceContent(const QByteArray &bytes)
+bool Device::replaceContent(const std::vector<ContentPart> &parts)
 {
-    return file() != nullptr && !file()->fileName().isEmpty() ? swapFile(file(), bytes)
-                                                              : overwrite(bytes);
+    return file() != nullptr && !file()->fileName().isEmpty() ? swapFile(file(), parts)
+                                                              : overwrite(parts);
 }
 
-bool Device::overwrite(const QByteArray &bytes)
+bool Device::copyParts(const std::vector<ContentPart> &parts, QIODevice &to)
 {
+    QByteArray block;
+    block.reserve(kBlock);
+    const auto isWritten = [&] {
+        const bool ok = writeAll(to, block) || fail(to.errorString());
+        block.resize(0);
+        return ok;
+    };
+    for (const ContentPart &part : parts) {
+        block += part.bytes;
+        for (qint64 done = 0; part.at >= 0 && done < part.size;) {
+            if (block.size() >= kBlock && !isWritten())
+                return false;
+            const qsizetype from = block.size();
+            const qint64 piece = std::min(part.size - done, kBlock - from);
+            block.resize(from + piece);
+            if (!readInto(block, from, part.at + done))
+                return false;
+            if (block.size() < from + piece)
+                return fail(u"the file has become shorter"_s);
+            done += piece;
+        }
+    }
+    return isWritten();
+}
+
+bool Device::overwrite(const std::vector<ContentPart> &parts)
+{
+    QBuffer content;
+    content.open(QIODevice::WriteOnly);
+    if (!copyParts(parts, content))
+        return false;
+    const QByteArray &bytes = content.data();
     const qint64 surplus = m_device->size() - bytes.size();
     if (!write(0, bytes))
         return false;
     // Blank lines fill what a device that cannot be cut has left over.
     if (surplus > 0 && !truncate(bytes.size()) && !write(bytes.size(), QByteArray(surplus, '\n')))
         return false;
+    m_isAsReplaced = true;
     return sync();
 }
 
-bool Device::swapFile(QFileDevice *fileDevice, const QByteArray &bytes)
+bool Device::swapFile(QFileDevice *fileDevice, const std::vector<ContentPart> &parts)
 {
     // Behind a symbolic link the file itself is replaced, not the link.
     const QString path = QFileInfo(fileDevice->fileName()).canonicalFilePath();
@@ -294,16 +379,36 @@ bool Device::swapFile(QFileDevice *fileDevice, const QByteArray &bytes)
     if (!fresh.open(QIODevice::ReadWrite | QIODevice::Unbuffered | QIODevice::NewOnly))
         return fail(fresh.errorString());
     copyPermissions(fileDevice->handle(), fresh.handle());
-    if (!writeAll(fresh, bytes))
-        return giveUp(fresh.errorString());
+    if (!copyParts(parts, fresh))
+        return giveUp(m_error);
+    const qint64 written = fresh.size();
     if (!syncFile(fresh.handle()) || !replaceFile(fresh.fileName(), path))
         return giveUp(lastFileError());
     const bool isSynced = syncFolderOf(path) || fail(lastFileError());
     unlock();
+    closeLater(duplicateHandle(fileDevice->handle()));
     if (!reopen(mode))
         return false;
     m_isLocked = lockFile(fileDevice->handle(), true, std::chrono::seconds(1));
+    // Others may have been quicker to lock the new file. What they append makes it longer, since
+    // there is no filling in it, and what they swap in is another file as long as ours is open.
+    const std::optional<FileIdentity> ours = fileIdentity(fresh.handle());
+    const std::optional<FileIdentity> found = identity();
+    m_isAsReplaced = ours && found && ours->isSameFileAs(*found) && fresh.size() == written;
     return isSynced && m_isLocked;
+}
+
+/// Closes the last handle of a replaced file aside: it is then that the system frees its space,
+/// which for a large file takes longer than all the rest.
+void Device::closeLater(int handle)
+{
+    if (handle < 0)
+        return;
+    try {
+        m_closing = std::jthread([handle] { closeHandle(handle); });
+    } catch (const std::system_error &) {
+        closeHandle(handle); // No thread is to be had.
+    }
 }
 
 } // namespace Norvane::Database

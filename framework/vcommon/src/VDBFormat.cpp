@@ -17,8 +17,6 @@ namespace {
 
 constexpr auto kHash = QCryptographicHash::Blake2b_256;
 constexpr auto kBase64 = QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals;
-/// A sum or a code in Base64.
-constexpr qsizetype kSumLength = 43;
 /// The characters with an escape of their own, and the letters that these consist of.
 constexpr qsizetype kEscapes = 4;
 constexpr char kEscaped[] = "\\\t\n\r";
@@ -274,14 +272,36 @@ std::optional<Header> decodeHeader(QByteArrayView line)
     return header;
 }
 
+qsizetype lineSize(qsizetype payloadSize, const Signer &signer)
+{
+    // The kind, the length, the sum and the code are each followed by a tab, all of it by the end.
+    return 1 + QByteArray::number(payloadSize).size() + kSumLength
+        + (signer.isKeyed() ? kSumLength : 1) + 4 + payloadSize + 1;
+}
+
+SumText writeLine(char *to, LineKind kind, QByteArrayView payload, const Signer &signer)
+{
+    const auto put = [&to](QByteArrayView bytes, char end) {
+        to = std::copy(bytes.begin(), bytes.end(), to);
+        *to++ = end;
+    };
+    const QByteArray sum = Signer::sum(kind, payload);
+    const char kindByte = char(kind);
+    put(QByteArrayView(&kindByte, 1), '\t');
+    put(QByteArray::number(payload.size()), '\t');
+    put(sum, '\t');
+    put(signer.code(sum), '\t');
+    put(payload, '\n');
+    SumText text;
+    std::copy(sum.begin(), sum.end(), text.begin());
+    return text;
+}
+
 QByteArray encodeLine(LineKind kind, QByteArrayView payload, const Signer &signer)
 {
-    const QByteArray sum = Signer::sum(kind, payload);
-    QByteArray line;
-    line.reserve(payload.size() + 2 * kSumLength + kMaxLengthDigits + 8);
-    line.append(char(kind)).append('\t').append(QByteArray::number(payload.size()));
-    line.append('\t').append(sum).append('\t').append(signer.code(sum)).append('\t');
-    return line.append(payload).append('\n');
+    QByteArray line(lineSize(payload.size(), signer), Qt::Uninitialized);
+    writeLine(line.data(), kind, payload, signer);
+    return line;
 }
 
 std::optional<Line> splitLine(QByteArrayView bytes)

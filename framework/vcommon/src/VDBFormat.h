@@ -8,6 +8,7 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+#include <array>
 #include <optional>
 
 // The bytes of the text database. docs/file-format.md describes them; the two change together.
@@ -20,6 +21,10 @@ constexpr char kMagic[] = "vdbtext";
 constexpr int kFormatVersion = 1;
 /// No header is longer: what is longer and has no line end is no torn header.
 constexpr qsizetype kMaxHeaderSize = 2048;
+
+/// A sum or a code in Base64.
+constexpr qsizetype kSumLength = 43;
+using SumText = std::array<char, kSumLength>;
 
 /// The first byte of a line says what the line is.
 enum class LineKind : char
@@ -105,6 +110,10 @@ std::optional<Header> decodeHeader(QByteArrayView line);
 /// The version that a header line claims to be of; 0 when it is no header line.
 int headerVersion(QByteArrayView line);
 
+/// The length of a line with its line end.
+qsizetype lineSize(qsizetype payloadSize, const Signer &signer);
+/// Writes a line of that length to `to`; gives the sum that it states.
+SumText writeLine(char *to, LineKind kind, QByteArrayView payload, const Signer &signer);
 /// One whole line with its line end.
 QByteArray encodeLine(LineKind kind, QByteArrayView payload, const Signer &signer);
 

@@ -3,6 +3,8 @@
 
 #include "VDBScanner.h"
 
+#include "VDBLineCheck.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -79,6 +81,25 @@ HeaderPlace readHeader(QByteArrayView bytes, Contents &contents)
     return place;
 }
 
+bool isFilling(QByteArrayView bytes)
+{
+    bool isOther = false;
+    for (const char c : bytes)
+        isOther |= c != '\n'; // Without a way out of the loop many bytes are compared at a time.
+    return !isOther;
+}
+
+/// The content without the filling behind its last line end.
+QByteArrayView withoutFilling(QByteArrayView bytes)
+{
+    constexpr qsizetype kBlock = 4096;
+    while (bytes.size() > kBlock && isFilling(bytes.last(kBlock + 1)))
+        bytes.chop(kBlock);
+    while (bytes.endsWith("\n\n"))
+        bytes.chop(1);
+    return bytes;
+}
+
 /// Walks the lines and applies the batches.
 ///
 /// The lines of a batch wait in m_pending for their commit line. A commit line that does not match
@@ -87,9 +108,12 @@ HeaderPlace readHeader(QByteArrayView bytes, Contents &contents)
 class Scanner
 {
 public:
-    Scanner(QByteArrayView bytes, const Signer &signer, Contents &contents)
+    /// `checked` holds lines that were checked before; others are checked when they are met.
+    Scanner(QByteArrayView bytes, const LineCheck &check, std::vector<CheckedLine> checked,
+            Contents &contents)
         : m_bytes(bytes)
-        , m_signer(signer)
+        , m_check(check)
+        , m_checked(std::move(checked))
         , m_contents(contents)
     { }
 
@@ -100,32 +124,32 @@ public:
 private:
     void readHeaderCopies(const HeaderPlace &place);
     void readLine();
+    const CheckedLine *checkedHere();
+    qsizetype lineFeedHere();
     bool readMark(QByteArrayView line);
-    bool readSignedLine(QByteArrayView line);
-    void readDamage(QByteArrayView line);
+    void readSound(const CheckedLine &line);
+    void readDamage(QByteArrayView bytes, const CheckedLine *line);
     void readCommit(QByteArrayView payload, qsizetype size);
     void readEnd();
     void endLine(qsizetype contentEnd);
     Entry newEntry(LineKind kind, qsizetype size, Reason damage) const;
-    QString idOf(LineKind kind, QByteArrayView payload) const;
-    qsizetype soundEnd(const Line &line, QByteArrayView bytes) const;
     void hold();
     void apply(std::vector<Entry> &entries);
     void applyOne(Entry &&entry);
-    void kill(const QString &id);
     void drop(std::vector<Entry> &entries, std::size_t count);
     void report(Reason reason, qint64 offset, qint64 size, qint64 line, const QString &id = {});
 
     const QByteArrayView m_bytes;
-    const Signer &m_signer;
+    const LineCheck &m_check;
+    const std::vector<CheckedLine> m_checked;
     Contents &m_contents;
 
     qsizetype m_position = 0;
     qint64 m_line = 1;
     qsizetype m_nextLineFeed = -1; ///< The first line feed at or after m_position, once known.
+    std::size_t m_nextChecked = 0;
     std::vector<Entry> m_pending;
     std::vector<Entry> m_held;
-    QMultiHash<QString, std::size_t> m_damagedRecords; ///< Live damaged entries by readable id.
     std::vector<VDBDamage> m_damage;
 };
 
@@ -174,16 +198,50 @@ void Scanner::readHeaderCopies(const HeaderPlace &place)
 
 void Scanner::readLine()
 {
+    const CheckedLine *line = checkedHere();
+    std::optional<CheckedLine> own;
+    if (line == nullptr) {
+        const qsizetype end = lineFeedHere();
+        const QByteArrayView bytes = m_bytes.sliced(m_position, end - m_position);
+        if (bytes.isEmpty() || bytes == QByteArrayView("\r")) {
+            endLine(m_position); // Blank lines are filling and have no meaning.
+            return;
+        }
+        if (readMark(bytes))
+            return;
+        own = m_check.check(m_bytes, m_position, end);
+        if (!own) {
+            readDamage(bytes, nullptr);
+            return;
+        }
+        line = &*own;
+    }
+    if (line->isSound())
+        readSound(*line);
+    else
+        readDamage(m_bytes.sliced(m_position, line->size), line);
+}
+
+/// The line that begins here, if it was checked before. Damage may let a line begin in the middle
+/// of what was taken for one.
+const CheckedLine *Scanner::checkedHere()
+{
+    while (m_nextChecked < m_checked.size() && m_checked[m_nextChecked].begin < m_position)
+        ++m_nextChecked;
+    const bool isHere =
+        m_nextChecked < m_checked.size() && m_checked[m_nextChecked].begin == m_position;
+    return isHere ? &m_checked[m_nextChecked] : nullptr;
+}
+
+/// Where the first line feed from here on is, or the end.
+qsizetype Scanner::lineFeedHere()
+{
     if (m_nextLineFeed < m_position) {
         m_nextLineFeed = m_bytes.indexOf('\n', m_position);
         if (m_nextLineFeed < 0)
             m_nextLineFeed = m_bytes.size();
     }
-    const QByteArrayView line = m_bytes.sliced(m_position, m_nextLineFeed - m_position);
-    if (line.isEmpty() || line == QByteArrayView("\r"))
-        endLine(m_position); // Blank lines are filling and have no meaning.
-    else if (!readMark(line) && !readSignedLine(line))
-        readDamage(line);
+    return m_nextLineFeed;
 }
 
 /// Moves behind the line end that is due at `contentEnd`, whatever stands there.
@@ -244,71 +302,39 @@ Entry Scanner::newEntry(LineKind kind, qsizetype size, Reason damage) const
     entry.size = size;
     entry.line = m_line;
     entry.damage = damage;
+    const qint64 end = m_position + size;
+    entry.hasLineFeed = end < m_bytes.size() && m_bytes[end] == '\n';
     return entry;
 }
 
-QString Scanner::idOf(LineKind kind, QByteArrayView payload) const
+/// Takes note of a sound insert, removal or commit.
+void Scanner::readSound(const CheckedLine &line)
 {
-    return kind == LineKind::Remove ? unescaped(payload)
-                                    : findField(payload, m_contents.header.keyField);
-}
-
-/// Where the content of a signed line ends, or -1 when no end makes its signature match.
-qsizetype Scanner::soundEnd(const Line &line, QByteArrayView bytes) const
-{
-    const qsizetype payloadAt = line.payload.data() - bytes.data();
-    const qsizetype lineFeed = bytes.endsWith('\r') ? bytes.size() - 1 : bytes.size();
-    // The stated length finds the end of a line whose line feed was altered; the line feed finds
-    // the end of a line whose length was altered.
-    qsizetype tried = -1;
-    for (const qsizetype end : {line.statedEnd, lineFeed, bytes.size()}) {
-        if (end < payloadAt || end == tried)
-            continue;
-        tried = end;
-        if (line.sum == Signer::sum(line.kind, bytes.sliced(payloadAt, end - payloadAt))
-            && (!m_signer.isKeyed() || line.code == m_signer.code(line.sum)))
-            return end;
-    }
-    return -1;
-}
-
-/// Reads an insert, a removal or a commit that is sound; false when the line is none.
-bool Scanner::readSignedLine(QByteArrayView bytes)
-{
-    const std::optional<Line> line = splitLine(bytes);
-    const qsizetype end = line ? soundEnd(*line, bytes) : -1;
-    if (end < 0)
-        return false;
-    const qsizetype payloadAt = line->payload.data() - bytes.data();
-    const QByteArrayView payload = bytes.sliced(payloadAt, end - payloadAt);
-    if (line->kind == LineKind::Commit) {
-        readCommit(payload, end);
+    if (line.kind == LineKind::Commit) {
+        readCommit(m_bytes.sliced(m_position + line.payloadAt, line.soundSize - line.payloadAt),
+                   line.soundSize);
     } else {
-        Entry entry = newEntry(line->kind, end, Reason::NotALine);
-        entry.payloadAt = payloadAt;
-        entry.sum = line->sum.toByteArray();
-        entry.id = idOf(line->kind, payload);
+        Entry entry = newEntry(line.kind, line.soundSize, Reason::NotALine);
+        entry.payloadAt = line.payloadAt;
+        std::copy(line.sum.begin(), line.sum.end(), entry.sum.begin());
+        entry.id = line.id;
         entry.isSound = true;
         m_pending.push_back(std::move(entry));
     }
-    endLine(m_position + end);
-    return true;
+    endLine(m_position + line.soundSize);
 }
 
-/// Takes note of a line that cannot be used.
-void Scanner::readDamage(QByteArrayView bytes)
+/// Takes note of a line that cannot be used; `line` is null when it has no known shape.
+void Scanner::readDamage(QByteArrayView bytes, const CheckedLine *line)
 {
-    const std::optional<Line> line = splitLine(bytes);
     Entry entry = newEntry(LineKind::Insert, bytes.size(), Reason::NotALine);
     entry.looksTorn = QByteArrayView("+-=\0", 4).contains(bytes[0]);
-    if (line) {
+    if (line != nullptr) {
         entry.kind = line->kind;
         entry.damage = line->kind == LineKind::Commit ? Reason::BadCommit : Reason::BadSignature;
         entry.isRecord = line->kind == LineKind::Insert;
-        entry.payloadAt = line->payload.data() - bytes.data();
-        entry.sum = line->sum.toByteArray();
-        if (line->kind != LineKind::Commit)
-            entry.id = idOf(line->kind, line->payload);
+        entry.payloadAt = line->payloadAt;
+        entry.id = line->id;
     } else if (bytes.startsWith(m_contents.headerLine)) {
         entry.damage = Reason::BadHeader;
     }
@@ -333,7 +359,7 @@ void Scanner::readCommit(QByteArrayView payload, qsizetype size)
     bool complete = lines.size() - skipped == count;
     QByteArray sums;
     for (std::size_t i = skipped; i < lines.size(); ++i) {
-        sums += m_pending[lines[i]].sum;
+        sums += QByteArrayView(m_pending[lines[i]].sum);
         complete = complete && m_pending[lines[i]].isSound;
     }
     if (complete && Signer::sum(sums) == findField(payload, u"digest"_s).toLatin1()) {
@@ -359,6 +385,8 @@ void Scanner::hold()
 void Scanner::readEnd()
 {
     m_contents.endsInsideLine = !m_bytes.endsWith('\n');
+    m_contents.end = m_bytes.size();
+    m_contents.line = m_line;
     const bool torn = std::any_of(m_pending.begin(), m_pending.end(), [](const Entry &entry) {
         return entry.isSound || entry.isRecord || entry.looksTorn;
     });
@@ -387,38 +415,19 @@ void Scanner::apply(std::vector<Entry> &entries)
 
 void Scanner::applyOne(Entry &&entry)
 {
-    std::vector<Entry> &entries = m_contents.entries;
-    if (entry.isSound) {
-        kill(entry.id);
-        if (entry.kind == LineKind::Remove)
-            return;
-        m_contents.index.insert(entry.id, entries.size());
-    } else {
+    if (!entry.isSound) {
         report(entry.damage, entry.offset, entry.size, entry.line, entry.id);
-        // An older sound record of the same key stays live: better an old one than none.
-        if (entry.isRecord)
-            m_damagedRecords.insert(entry.id, entries.size());
-        else if (entry.kind != LineKind::Insert || entry.damage == Reason::BadHeader)
+        if (!entry.isRecord
+            && (entry.kind != LineKind::Insert || entry.damage == Reason::BadHeader))
             return;
     }
-    entries.push_back(std::move(entry));
-}
-
-/// Marks every live entry of the key as dead: a later line stands for them.
-void Scanner::kill(const QString &id)
-{
-    if (const auto sound = m_contents.index.constFind(id); sound != m_contents.index.constEnd()) {
-        m_contents.entries[*sound].isLive = false;
-        m_contents.index.erase(sound);
-    }
-    for (const std::size_t damaged : m_damagedRecords.values(id))
-        m_contents.entries[damaged].isLive = false;
-    m_damagedRecords.remove(id);
+    m_contents.add(std::move(entry));
 }
 
 } // namespace
 
-Contents scan(QByteArrayView bytes, const Signer &signer, const VDBReporter &reporter)
+Contents scan(QByteArrayView bytes, const Signer &signer, const VDBReporter &reporter,
+              qsizetype pieceSize)
 {
     Contents contents;
     if (bytes.isEmpty() || isTornHeader(bytes)) {
@@ -432,7 +441,12 @@ Contents scan(QByteArrayView bytes, const Signer &signer, const VDBReporter &rep
         contents.status = VDBStatus::WrongKey;
     if (contents.status != VDBStatus::Ok)
         return contents;
-    Scanner scanner(bytes, signer, contents);
+    const QByteArrayView content = withoutFilling(bytes);
+    const LineCheck check{.signer = signer, .keyField = contents.header.keyField};
+    std::vector<CheckedLine> checked = check.checkAll(content, pieceSize);
+    contents.index.reserve(qsizetype(checked.size()));
+    contents.entries.reserve(checked.size());
+    Scanner scanner(content, check, std::move(checked), contents);
     scanner.run(place);
     if (reporter) {
         for (const VDBDamage &damage : scanner.takeDamage())

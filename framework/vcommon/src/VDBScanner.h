@@ -3,57 +3,20 @@
 
 #pragma once
 
-#include "VDBFormat.h"
+#include "VDBContents.h"
 
 #include <vcommon/VDBStatus.h>
 
-#include <QtCore/QHash>
-
-#include <vector>
-
 namespace Norvane::Database {
 
-/// One line of the file that is, or once was, a live record; or bytes that cannot be read.
-struct Entry
-{
-    qint64 offset = 0; ///< Where the line begins in the file.
-    qint64 size = 0; ///< Its length without the line end.
-    qint64 payloadAt = 0; ///< Where its fields begin, from `offset`.
-    qint64 line = 0; ///< Its number, from 1.
-    QString id; ///< The record's key; of a damaged line as far as it is readable.
-    QByteArray sum; ///< As the line states it.
-    LineKind kind = LineKind::Insert;
-    VDBDamage::Reason damage = VDBDamage::Reason::NotALine; ///< Why, when it is not sound.
-    bool isSound = false; ///< The signature matches the content.
-    bool isRecord = false; ///< Damaged, but an insert line still.
-    bool looksTorn = false; ///< Damaged in a way that an interrupted write leaves.
-    bool isLive = true;
-};
-
-/// What an append must put right first.
-enum class TailState
-{
-    Clean,
-    Unsealed, ///< The last batch is complete, but nothing says that it is on the disk.
-    Unfinished, ///< The last batch was never completed.
-};
-
-/// What a file holds: its header, its live records, and how it ends.
-struct Contents
-{
-    VDBStatus status = VDBStatus::Ok;
-    Header header;
-    QByteArray headerLine; ///< One copy of the header, without its line end.
-    std::vector<Entry> entries; ///< In file order; dead ones included.
-    QHash<QString, std::size_t> index; ///< From the key to the live and sound entry.
-    TailState tail = TailState::Clean;
-    bool endsInsideLine = false; ///< The last byte is no line end.
-};
+/// How large the pieces are in which lines are checked in parallel.
+constexpr qsizetype kPieceSize = 64 * 1024;
 
 /// Reads the whole of a file's bytes. Takes any bytes, in time proportional to their number.
 ///
 /// `signer` holds the key that was given; without one, sums alone are checked. `reporter` may be
-/// empty.
-Contents scan(QByteArrayView bytes, const Signer &signer, const VDBReporter &reporter);
+/// empty. The result does not depend on `pieceSize`; with zero, lines are checked one by one.
+Contents scan(QByteArrayView bytes, const Signer &signer, const VDBReporter &reporter,
+              qsizetype pieceSize = kPieceSize);
 
 } // namespace Norvane::Database

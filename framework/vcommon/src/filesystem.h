@@ -36,6 +36,14 @@ std::optional<FileIdentity> fileIdentity(const QString &path);
 [[nodiscard]] bool lockFile(int handle, bool alone, std::chrono::milliseconds timeout);
 void unlockFile(int handle);
 
+/// Reads from a place in the file, on any thread; how much it was, less than `size` only at the end
+/// of the file, or -1.
+[[nodiscard]] qint64 readFileAt(int handle, qint64 at, char *to, qint64 size);
+
+/// Another handle of the same open file, or -1.
+[[nodiscard]] int duplicateHandle(int handle);
+void closeHandle(int handle);
+
 /// Makes the file's content survive a power cut.
 [[nodiscard]] bool syncFile(int handle);
 /// Makes the entries of the folder that holds `path` survive a power cut.

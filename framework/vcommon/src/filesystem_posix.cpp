@@ -75,6 +75,30 @@ void unlockFile(int handle)
     retried([&] { return ::flock(handle, LOCK_UN); });
 }
 
+qint64 readFileAt(int handle, qint64 at, char *to, qint64 size)
+{
+    qint64 filled = 0;
+    while (filled < size) {
+        const ssize_t got = ::pread(handle, to + filled, std::size_t(size - filled), at + filled);
+        if (got < 0 && errno != EINTR)
+            return -1;
+        if (got == 0)
+            break;
+        filled += std::max<ssize_t>(got, 0);
+    }
+    return filled;
+}
+
+int duplicateHandle(int handle)
+{
+    return ::fcntl(handle, F_DUPFD_CLOEXEC, 0);
+}
+
+void closeHandle(int handle)
+{
+    ::close(handle);
+}
+
 bool syncFile(int handle)
 {
 #if defined(Q_OS_LINUX)
