@@ -19,7 +19,7 @@ std::optional<VPrinterDriver> decoded(Decoder decoder, const QByteArray &text)
         return driver;
     }
     const std::unique_ptr<Norvane::Hardware::Interfaces::IVDeviceConfig> config(
-        Norvane::Hardware::VDeviceConfig::fromJson(text));
+        Norvane::Hardware::VDeviceConfig::fromJson(Norvane::VBytes(text)));
     const auto *driver = dynamic_cast<const VPrinterDriver *>(config.get());
     return driver ? std::optional(*driver) : std::nullopt;
 }
@@ -31,8 +31,10 @@ QByteArray keyOf(const QUuid &id)
     return id.toRfc4122();
 }
 
-QByteArray textOf(const VPrinterDriver &driver)
+QByteArray textOf(const VPrinterDriver &driver, Decoder decoder)
 {
+    if (decoder == Decoder::Ours)
+        return driver.toJson();
     return QJsonDocument(driver.toJsonObject()).toJson(QJsonDocument::Compact);
 }
 

@@ -55,7 +55,7 @@ bool KeyValueContender::commit(const Drivers &drivers)
     QList<KeyValueStore::Change> changes;
     changes.reserve(drivers.size());
     for (const VPrinterDriver &driver : drivers)
-        changes.append({keyOf(driver.dataId()), textOf(driver)});
+        changes.append({keyOf(driver.dataId()), textOf(driver, m_decoder)});
     return timed([&] { return m_store->write(changes); });
 }
 
