@@ -76,6 +76,8 @@ void tst_JsonText::whatIsNotPlain_isRefused_data()
     row("a bare value", "1");
     row("an array", "[]");
     row("a byte order mark", "\xef\xbb\xbf{}");
+    row("a byte order mark in a string", "{\"a\":\"\xef\xbb\xbf\"}");
+    row("a byte order mark in a key", "{\"\xef\xbb\xbf\":1}");
     row("an escape", R"({"a":"\n"})");
     row("an escape in a key", R"({"\u0061":1})");
     row("a control character", "{\"a\":\"\n\"}");

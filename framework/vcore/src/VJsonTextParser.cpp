@@ -222,6 +222,9 @@ void VJsonText::Parser::skipPlain()
 bool VJsonText::Parser::readString(Kind kind)
 {
     ++m_at;
+    // QJsonDocument drops a byte order mark at the start of a string.
+    if (QByteArrayView(m_at, m_end).startsWith("\xef\xbb\xbf"))
+        return false;
     const quint32 string = open(kind);
     for (;;) {
         skipPlain();
