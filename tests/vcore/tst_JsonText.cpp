@@ -105,7 +105,8 @@ void tst_JsonText::whatIsNotPlain_isRefused_data()
     row("a number that ends in its point", R"({"a":1.})");
     row("a lone minus", R"({"a":-})");
     row("an exponent", R"({"a":1e3})");
-    row("sixteen digits", R"({"a":1234567890123456})");
+    row("sixteen whole digits", R"({"a":1234567890123456})");
+    row("eighteen digits", R"({"a":1.23456789012345678})");
     row("depth", QByteArray(R"({"a":)") + QByteArray(40, '[') + QByteArray(40, ']') + '}');
 }
 
@@ -139,7 +140,9 @@ void tst_JsonText::numbers_readLikeADocument_data()
                                "0.30000000000000",
                                "1.00000000000001",
                                "-123456.789012345",
-                               "99999999999999.9"})
+                               "99999999999999.9",
+          "0.3333333333333333", "0.16666666666666666", "0.14285714285714285", "1.4142135623730951",
+          "123456789012345.67", "-0.0000000000000001"})
         QTest::newRow(digits) << QByteArray(digits);
 }
 

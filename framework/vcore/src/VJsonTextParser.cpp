@@ -16,9 +16,10 @@ namespace {
 
 /// Deeper text is for QJsonDocument, which does not run out of stack.
 constexpr int kMaxDepth = 32;
-/// A double holds each whole number of so many digits, and numbers of so many digits read alike
-/// whatever the algorithm.
-constexpr qsizetype kMaxDigits = 15;
+/// A double holds each whole number of so many digits.
+constexpr qsizetype kMaxWholeDigits = 15;
+/// So many digits tell any two doubles apart: none is written with more.
+constexpr qsizetype kMaxDigits = 17;
 /// Beyond so many unsorted keys, looking for doubles costs more than the tree.
 constexpr quint32 kMaxUnsortedKeys = 64;
 
@@ -246,17 +247,20 @@ bool VJsonText::Parser::readNumber()
     const char *const first = m_at;
     while (isDigit(peek()))
         ++m_at;
-    qsizetype digits = m_at - first;
-    if (digits == 0 || (*first == '0' && digits > 1))
+    const qsizetype wholeDigits = m_at - first;
+    if (wholeDigits == 0 || wholeDigits > kMaxWholeDigits || (*first == '0' && wholeDigits > 1))
         return false;
+    qsizetype fractionDigits = 0;
     if (take('.')) {
         const char *const fraction = m_at;
         while (isDigit(peek()))
             ++m_at;
-        if (m_at == fraction)
+        fractionDigits = m_at - fraction;
+        if (fractionDigits == 0)
             return false;
-        digits += m_at - fraction;
     }
+    // The zero before the point is no digit that counts.
+    const qsizetype digits = (*first == '0' ? 0 : wholeDigits) + fractionDigits;
     close(number);
     return digits <= kMaxDigits && peek() != 'e' && peek() != 'E';
 }

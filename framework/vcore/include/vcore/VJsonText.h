@@ -22,8 +22,8 @@ class VJsonTextObject;
 /// A QJsonDocument builds a tree first, which costs more than everything else that reading a record
 /// takes. This reader takes plain text only and refuses the rest, valid or not: what it accepts,
 /// QJsonDocument accepts too and gives the same values; what it refuses is for QJsonDocument to
-/// judge. Plain means: an object, no escapes in strings, no key twice in an object, numbers of at
-/// most 15 digits without an exponent, and little depth.
+/// judge. Plain means: an object, no escapes in strings, no key twice in an object, numbers without
+/// an exponent and of no more digits than a double has, and little depth.
 ///
 /// Values, objects and arrays are views, with the operations of their Qt namesakes: they are valid
 /// as long as this object is not parsed into again and its bytes live. The object is large, and
