@@ -11,6 +11,7 @@
 #include "enums/PrinterFacesMode_T.h"
 #include "enums/PrinterFileCompression_T.h"
 #include "enums/PrinterFileProtection_T.h"
+#include "module/ResourceRegistration.h"
 
 #include <kilnjet/VElaborationDriver.h>
 #include <kilnjet/VPrintUnitDriver.h>
@@ -48,6 +49,8 @@
 #include <vimaging/RotateFlipType.h>
 #include <vimaging/VirtualFacesMode.h>
 
+#include <array>
+
 namespace Norvane {
 
 namespace {
@@ -58,16 +61,29 @@ using OwnEnumerations =
                       Kilnjet::ElaborationType_T, Kilnjet::LevelManagement_T, Channel_T,
                       ChannelV100Sort_T>;
 
-/// One prototype of each driver; the framework keeps them for good.
-struct DriverPrototypes
+/// One prototype of each driver, from which stored records are rebuilt. They belong to the
+/// framework, which keeps them for good; unloading makes it forget them, since their code goes.
+class DriverPrototypes
 {
+public:
     DriverPrototypes()
     {
-        using Hardware::VDeviceConfig;
-        VDeviceConfig::registerConfig(new Kilnjet::VPrinterDriver(QUuid()));
-        VDeviceConfig::registerConfig(new Kilnjet::VElaborationDriver(QUuid()));
-        VDeviceConfig::registerConfig(new Kilnjet::VPrintUnitDriver(QUuid()));
+        for (Hardware::VDeviceConfig *prototype : m_prototypes)
+            Hardware::VDeviceConfig::registerConfig(prototype);
     }
+    ~DriverPrototypes()
+    {
+        for (auto it = m_prototypes.rbegin(); it != m_prototypes.rend(); ++it)
+            Hardware::VDeviceConfig::unregisterConfig(*it);
+    }
+    Q_DISABLE_COPY_MOVE(DriverPrototypes)
+
+private:
+    const std::array<Hardware::VDeviceConfig *, 3> m_prototypes{
+        new Kilnjet::VPrinterDriver(QUuid()),
+        new Kilnjet::VElaborationDriver(QUuid()),
+        new Kilnjet::VPrintUnitDriver(QUuid()),
+    };
 };
 
 using CoreEnumerations =
@@ -96,6 +112,8 @@ struct Load
     CoreEnumerations coreEnumerations;
     ImagingEnumerations imagingEnumerations;
     ColorManagementEnumerations colorManagementEnumerations;
+    Kilnjet::ResourceRegistration translations{Kilnjet::kTranslations};
+    Kilnjet::ResourceRegistration screeningData{Kilnjet::kScreeningData};
 };
 
 const Load load;

@@ -50,6 +50,8 @@ class tst_VDeviceConfigFromJson : public QObject
 private Q_SLOTS:
     void initTestCase();
     void registry_keepsTheLastPrototypeOfAKind();
+    void registry_forgetsWithoutDeleting();
+    void registry_forgetsAReplacedOne();
     void registry_takesNull();
     void registry_isUsedFromAnyThread();
     void record_isRebuilt();
@@ -80,6 +82,38 @@ void tst_VDeviceConfigFromJson::registry_keepsTheLastPrototypeOfAKind()
     VDeviceConfig::registerConfig(std::make_unique<Replaced>().release());
     QVERIFY(read(bytesOf(Replaced())) != nullptr);
     QVERIFY(Replaced::liveCount() == 2); // The replaced one is not deleted.
+}
+
+void tst_VDeviceConfigFromJson::registry_forgetsWithoutDeleting()
+{
+    using Forgotten = TestConfig<12>;
+    auto *const first = std::make_unique<Forgotten>().release();
+    auto *const second = std::make_unique<Forgotten>().release();
+    second->setRefuses(true);
+    VDeviceConfig::registerConfig(first);
+    VDeviceConfig::registerConfig(second);
+    QVERIFY(read(bytesOf(Forgotten())) == nullptr);
+    VDeviceConfig::unregisterConfig(second);
+    QVERIFY(read(bytesOf(Forgotten())) != nullptr); // The one that was replaced is back.
+    VDeviceConfig::unregisterConfig(first);
+    QVERIFY(!VDeviceConfig::isRegistered(Forgotten::kind()));
+    QVERIFY(read(bytesOf(Forgotten())) == nullptr);
+    VDeviceConfig::unregisterConfig(first); // It is known no longer.
+    VDeviceConfig::unregisterConfig(nullptr);
+    QVERIFY(Forgotten::liveCount() == 2);
+}
+
+void tst_VDeviceConfigFromJson::registry_forgetsAReplacedOne()
+{
+    using Forgotten = TestConfig<13>;
+    auto *const first = std::make_unique<Forgotten>().release();
+    auto *const second = std::make_unique<Forgotten>().release();
+    VDeviceConfig::registerConfig(first);
+    VDeviceConfig::registerConfig(second);
+    VDeviceConfig::unregisterConfig(first);
+    QVERIFY(VDeviceConfig::isRegistered(Forgotten::kind()));
+    VDeviceConfig::unregisterConfig(second);
+    QVERIFY(!VDeviceConfig::isRegistered(Forgotten::kind()));
 }
 
 void tst_VDeviceConfigFromJson::registry_takesNull()

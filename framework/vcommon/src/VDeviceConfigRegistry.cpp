@@ -22,11 +22,28 @@ namespace {
 
 using Interfaces::IVDeviceConfig;
 
+struct Prototype
+{
+    QUuid kind;
+    const IVDeviceConfig *config;
+};
+
 struct Registry
 {
     QMutex mutex;
     std::shared_ptr<const Prototypes> prototypes = std::make_shared<Prototypes>();
-    std::vector<IVDeviceConfig *> kept; ///< All that were ever registered, replaced ones too.
+    std::vector<Prototype> known; ///< In the order of registration; of a kind the last one counts.
+    std::vector<IVDeviceConfig *> kept; ///< All that were ever registered, forgotten ones too.
+
+    /// To be called after a change of the known ones. The prototypes are made anew, since whoever
+    /// reads records at this moment goes on with those that were registered before.
+    void _publish()
+    {
+        auto published = std::make_shared<Prototypes>();
+        for (const Prototype &each : known)
+            published->byKind.insert(each.kind, each.config);
+        prototypes = std::move(published);
+    }
 };
 
 /// Never destroyed, like the prototypes: the library of one may be unloaded before this one.
@@ -89,13 +106,19 @@ void VDeviceConfig::registerConfig(IVDeviceConfig *prototype)
 {
     if (prototype == nullptr)
         return;
-    const QUuid id = prototype->id();
+    const QUuid kind = prototype->id();
     const QMutexLocker locker(&registry().mutex);
-    // Anew, since whoever reads records at this moment goes on with what was registered before.
-    auto prototypes = std::make_shared<Prototypes>(*registry().prototypes);
-    prototypes->byKind.insert(id, prototype);
-    registry().prototypes = std::move(prototypes);
+    registry().known.push_back({kind, prototype});
     registry().kept.push_back(prototype);
+    registry()._publish();
+}
+
+void VDeviceConfig::unregisterConfig(const IVDeviceConfig *prototype)
+{
+    const QMutexLocker locker(&registry().mutex);
+    std::erase_if(registry().known,
+                  [prototype](const Prototype &each) { return each.config == prototype; });
+    registry()._publish();
 }
 
 bool VDeviceConfig::isRegistered(const QUuid &id)

@@ -91,6 +91,9 @@ public:
     /// Keeps `prototype` (and owns it) as what fromJson() clones for its id(); a later one of the
     /// same kind takes its place. Prototypes are never deleted: their library may be gone by then.
     static void registerConfig(Interfaces::IVDeviceConfig *prototype);
+    /// Forgets `prototype`, which is not deleted and not called again: what a library does with its
+    /// prototypes when it is unloaded. The one that it replaced, if any, counts again.
+    static void unregisterConfig(const Interfaces::IVDeviceConfig *prototype);
     /// True when a prototype of the kind is registered.
     static bool isRegistered(const QUuid &id);
     /// A new configuration, owned by the caller, of the kind that `json` names; null when the bytes
