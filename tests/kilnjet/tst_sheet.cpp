@@ -4,6 +4,7 @@
 // The sheet of a machine: units, swatches, elaborations by kind; colours only where they belong.
 
 #include "ChannelColours.h"
+#include "DisplayTexts.h"
 #include "ElaborationGroup.h"
 #include "MachineSheet.h"
 #include "support/RecordJson.h"
@@ -45,7 +46,8 @@ namespace {
 QString sheetOf(const QJsonObject &record, Colour colour = Colour::Off)
 {
     VPrinterDriver machine;
-    return machine.setJsonObject(record) ? machineSheet(machine, Paint(colour)) : QString();
+    return machine.setJsonObject(record) ? machineSheet(machine, DisplayTexts(), Paint(colour))
+                                         : QString();
 }
 
 QJsonObject method(const QString &name, const QString &type)

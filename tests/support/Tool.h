@@ -63,6 +63,12 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
+    /// Sets a variable of the environment of all runs to come; they begin without a language.
+    void setEnvironment(const QString &name, const QString &value)
+    {
+        m_environment.insert(name, value);
+    }
+
     /// Runs the tool in the folder; `output` takes its standard output instead of the result.
     ToolRun run(const QStringList &arguments, const QByteArray &input = {},
                 const QString &output = {}) const
@@ -71,7 +77,10 @@ public:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const auto &name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
             environment.remove(name);
+        for (const auto &name : {u"LC_MESSAGES"_s, u"LANG"_s, u"LANGUAGE"_s})
+            environment.remove(name);
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        environment.insert(m_environment);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(m_folder.path());
         if (!output.isEmpty())
@@ -87,6 +96,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    QProcessEnvironment m_environment;
 };
 
 } // namespace Support

@@ -215,14 +215,34 @@ Command enumsCommand()
         .name = "enums"_L1,
         .summary = "List the enumerations and the names of their values"_L1,
         .description =
-            "The names are what records store. Without NAME: all enumerations, and how many values "
-            "each has."_L1,
+            "The names are what records store, the texts beside them what people read in the "
+            "language of --lang or of the environment. Without NAME: all enumerations, and how "
+            "many values each has."_L1,
         .operands = {{"NAME"_L1, 0, 1, "an enumeration"_L1}},
         .options = {},
         .exitCodes = {{ExitCode::Finding, "there is no such enumeration"_L1}},
         .examples = {{"enums"_L1, "all enumerations"_L1},
-                     {"enums Channel"_L1, "the channels with their numbers"_L1}},
+                     {"enums Channel"_L1, "the channels with their numbers"_L1},
+                     {"enums PrinterClass --lang it"_L1,
+                      "the classes, and their Italian texts"_L1}},
         .run = runEnums,
+    };
+}
+
+Command infoCommand()
+{
+    return {
+        .name = "info"_L1,
+        .summary = "Tell what the library is and what it carries"_L1,
+        .description = "Its name and version, the version of Qt that runs, the version of the "
+                       "database's file format, and how many enumerations, display texts, "
+                       "languages and screening files the library holds."_L1,
+        .operands = {},
+        .options = {},
+        .exitCodes = {},
+        .examples = {{"info"_L1, "what to add to a report of a problem"_L1},
+                     {"info --json"_L1, "the same for scripts"_L1}},
+        .run = runInfo,
     };
 }
 
@@ -293,7 +313,7 @@ const QList<Command> &commandTable()
         QList<Command>{
             importCommand(), listCommand(),     queryCommand(),  showCommand(),
             diffCommand(),   exportCommand(),   removeCommand(), renameCommand(),
-            enumsCommand(),  validateCommand(), verifyCommand(),
+            enumsCommand(),  validateCommand(), verifyCommand(), infoCommand(),
         }
         + maintenanceCommands() + QList<Command>{helpCommand()};
     return table;
@@ -307,6 +327,9 @@ const QList<Option> &globalOptions()
          "the database's key is the content of FILE, without the line end at its end"_L1},
         {"--wait"_L1, ""_L1, "SECONDS"_L1,
          "how long to wait for another process that holds the database (10)"_L1},
+        {"--lang"_L1, ""_L1, "LANGUAGE"_L1,
+         "show values by their texts in this language; C shows the stored names (the "
+         "environment's language)"_L1},
         {"--json"_L1, ""_L1, ""_L1, "write data and messages as JSON"_L1},
         {"--quiet"_L1, "-q"_L1, ""_L1, "show no progress on the terminal"_L1},
         {"--help"_L1, "-h"_L1, ""_L1, "show this help"_L1},

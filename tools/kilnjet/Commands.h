@@ -17,6 +17,7 @@ ExitCode runEnums(const Invocation &invocation, Console &console);
 ExitCode runExport(const Invocation &invocation, Console &console);
 ExitCode runHelp(const Invocation &invocation, Console &console);
 ExitCode runImport(const Invocation &invocation, Console &console);
+ExitCode runInfo(const Invocation &invocation, Console &console);
 ExitCode runList(const Invocation &invocation, Console &console);
 ExitCode runPurge(const Invocation &invocation, Console &console);
 ExitCode runQuery(const Invocation &invocation, Console &console);

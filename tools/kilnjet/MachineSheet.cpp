@@ -4,6 +4,7 @@
 #include "MachineSheet.h"
 
 #include "ChannelColours.h"
+#include "DisplayTexts.h"
 #include "ElaborationGroup.h"
 #include "RecordSchema.h"
 #include "Text.h"
@@ -32,8 +33,9 @@ constexpr int kLabelWidth = 20;
 class Sheet
 {
 public:
-    explicit Sheet(const Paint &paint)
-        : m_paint(paint)
+    Sheet(const DisplayTexts &texts, const Paint &paint)
+        : m_texts(texts)
+        , m_paint(paint)
     { }
 
     void addMachine(const VPrinterDriver &machine);
@@ -49,6 +51,7 @@ private:
     void addElaboration(const QJsonObject &record, int depth);
     void addChildren(const QJsonObject &record, int depth);
 
+    const DisplayTexts &m_texts;
     Paint m_paint;
 };
 
@@ -142,7 +145,7 @@ void Sheet::addMachine(const VPrinterDriver &machine)
 
 void Sheet::addPrinter(const QJsonObject &config)
 {
-    addLine(u"Class"_s, config["printerClass"_L1].toString(), 1);
+    addLine(u"Class"_s, m_texts.text(u"PrinterClass"_s, config["printerClass"_L1].toString()), 1);
     addLine(u"Faces mode"_s, config["facesMode"_L1].toString(), 1);
     addLine(u"Most faces"_s, counted(config["maximumFaces"_L1].toInt(), u"face"_s), 1);
     addLine(u"Largest image"_s, bytesText(config["maximumImageBytes"_L1].toString()), 1);
@@ -200,8 +203,12 @@ void Sheet::addElaboration(const QJsonObject &record, int depth)
             Imaging::VResolution::fromJsonObject(value.toObject()).toString(QLocale::c()));
     text += u'\n';
     addTitle(title, record, depth);
-    addLine(u"Type"_s, config["elaborationType"_L1].toString(), depth + 1);
-    addLine(u"Levels"_s, joined(config["levelManagementList"_L1]), depth + 1);
+    QJsonArray levels;
+    for (const QJsonValue &level : config["levelManagementList"_L1].toArray())
+        levels.append(m_texts.text(u"LevelManagement"_s, level.toString()));
+    addLine(u"Type"_s, m_texts.text(u"ElaborationType"_s, config["elaborationType"_L1].toString()),
+            depth + 1);
+    addLine(u"Levels"_s, joined(levels), depth + 1);
     addLine(u"Resolutions"_s, resolutions.isEmpty() ? u"none"_s : resolutions.join(u", "_s),
             depth + 1);
     addLine(u"Scroll ratios"_s, joined(config["scrollRatioList"_L1]), depth + 1);
@@ -241,9 +248,9 @@ void Sheet::addChildren(const QJsonObject &record, int depth)
 
 } // namespace
 
-QString machineSheet(const VPrinterDriver &machine, const Paint &paint)
+QString machineSheet(const VPrinterDriver &machine, const DisplayTexts &texts, const Paint &paint)
 {
-    Sheet sheet(paint);
+    Sheet sheet(texts, paint);
     sheet.addMachine(machine);
     return sheet.text;
 }

@@ -11,8 +11,10 @@
 
 namespace Norvane::Kilnjet::Tool {
 
+class DisplayTexts;
+
 /// A machine as a sheet to read: its own fields and limits, its print units with their channels in
-/// order, its elaborations by kind. Safe for a terminal.
-QString machineSheet(const VPrinterDriver &machine, const Paint &paint);
+/// order, its elaborations by kind, with values as `texts` show them. Safe for a terminal.
+QString machineSheet(const VPrinterDriver &machine, const DisplayTexts &texts, const Paint &paint);
 
 } // namespace Norvane::Kilnjet::Tool

@@ -4,6 +4,7 @@
 #include "MachineTable.h"
 
 #include "Console.h"
+#include "DisplayTexts.h"
 #include "EnumText.h"
 #include "Text.h"
 
@@ -28,7 +29,8 @@ QJsonObject summaryOf(const VPrinterDriver &machine)
 
 } // namespace
 
-void writeMachines(const QList<VPrinterDriver> &machines, Console &console)
+void writeMachines(const QList<VPrinterDriver> &machines, const DisplayTexts &texts,
+                   Console &console)
 {
     if (console.isJson()) {
         QJsonArray array;
@@ -45,11 +47,13 @@ void writeMachines(const QList<VPrinterDriver> &machines, Console &console)
     table.addColumn(u"CHILDREN"_s, TextTable::Align::Right);
     table.addColumn(u"ID"_s);
     for (const VPrinterDriver &machine : machines) {
-        table.addRow({machine.name(), enumText(u"PrinterClass"_s, machine.printerClass()),
-                      enumText(u"PrinterFacesMode"_s, machine.facesMode()),
-                      QString::number(machine.maximumFaces()),
-                      QString::number(machine.count(QUuid(), false)),
-                      machine.dataId().toString(QUuid::WithoutBraces)});
+        table.addRow(
+            {machine.name(),
+             texts.text(u"PrinterClass"_s, enumText(u"PrinterClass"_s, machine.printerClass())),
+             enumText(u"PrinterFacesMode"_s, machine.facesMode()),
+             QString::number(machine.maximumFaces()),
+             QString::number(machine.count(QUuid(), false)),
+             machine.dataId().toString(QUuid::WithoutBraces)});
     }
     console.write(table.toString());
 }

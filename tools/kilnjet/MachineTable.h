@@ -10,8 +10,11 @@
 namespace Norvane::Kilnjet::Tool {
 
 class Console;
+class DisplayTexts;
 
-/// Writes one line a machine under headings, or an array with a summary of each.
-void writeMachines(const QList<VPrinterDriver> &machines, Console &console);
+/// Writes one line a machine under headings, with values as `texts` show them, or an array with a
+/// summary of each.
+void writeMachines(const QList<VPrinterDriver> &machines, const DisplayTexts &texts,
+                   Console &console);
 
 } // namespace Norvane::Kilnjet::Tool

@@ -4,6 +4,7 @@
 #include "Run.h"
 
 #include "Console.h"
+#include "DisplayTexts.h"
 #include "Help.h"
 #include "Invocation.h"
 
@@ -44,6 +45,7 @@ ExitCode runCommand(const QStringList &arguments, Console &console)
             return showHelp(invocation.command, console);
         if (invocation.has("--version"_L1))
             return showVersion(console);
+        refuseUnknownLanguage(invocation);
         return invocation.command->run(invocation, console);
     } catch (const Failure &failure) {
         console.fail(failure);

@@ -171,6 +171,11 @@ bool VDBText::isKeyed() const
     return !d->contents.header.keyCheck.isEmpty();
 }
 
+int VDBText::formatVersion()
+{
+    return kFormatVersion;
+}
+
 std::chrono::milliseconds VDBText::lockTimeout() const
 {
     return d->lockTimeout;

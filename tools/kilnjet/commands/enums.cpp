@@ -3,6 +3,7 @@
 
 #include "Commands.h"
 #include "Console.h"
+#include "DisplayTexts.h"
 #include "Invocation.h"
 #include "Nearest.h"
 #include "Text.h"
@@ -70,31 +71,47 @@ QString numberText(const IVEnum &enumeration, qint64 number)
                                  : decimal;
 }
 
-ExitCode showEnum(const IVEnum &enumeration, Console &console)
+/// "macOS (also read: OSX)": the written name and the others.
+QString namesText(const QStringList &names)
 {
-    QJsonArray values;
+    return names.size() == 1
+        ? names.first()
+        : u"%1 (also read: %2)"_s.arg(names.first(), names.sliced(1).join(u", "_s));
+}
+
+void writeTable(const IVEnum &enumeration, const DisplayTexts &texts, Console &console)
+{
+    const bool hasTexts = texts.has(enumeration.name());
     TextTable table;
     table.addColumn(u"NUMBER"_s, TextTable::Align::Right);
     table.addColumn(u"NAME"_s);
+    if (hasTexts)
+        table.addColumn(u"TEXT"_s);
     for (const qint64 number : enumeration.names().numbers()) {
         const QStringList names = enumeration.names().names(number);
-        const QStringList aliases = names.sliced(1);
-        table.addRow({numberText(enumeration, number),
-                      aliases.isEmpty()
-                          ? names.first()
-                          : u"%1 (also read: %2)"_s.arg(names.first(), aliases.join(u", "_s))});
-        values.append(QJsonObject{{u"number"_s, number},
-                                  {u"name"_s, names.first()},
-                                  {u"aliases"_s, QJsonArray::fromStringList(aliases)}});
+        QStringList cells{numberText(enumeration, number), namesText(names)};
+        if (hasTexts)
+            cells.append(texts.text(enumeration.name(), names.first()));
+        table.addRow(cells);
     }
-    if (console.isJson()) {
-        console.write(QJsonObject{{u"name"_s, enumeration.name()},
-                                  {u"flags"_s, enumeration.isFlags()},
-                                  {u"values"_s, values}});
-    } else {
-        console.write(table.toString());
+    console.write(table.toString());
+}
+
+void writeJson(const IVEnum &enumeration, const DisplayTexts &texts, Console &console)
+{
+    QJsonArray values;
+    for (const qint64 number : enumeration.names().numbers()) {
+        const QStringList names = enumeration.names().names(number);
+        QJsonObject value{{u"number"_s, number},
+                          {u"name"_s, names.first()},
+                          {u"aliases"_s, QJsonArray::fromStringList(names.sliced(1))}};
+        if (texts.has(enumeration.name()))
+            value.insert("text"_L1, texts.text(enumeration.name(), names.first()));
+        values.append(value);
     }
-    return ExitCode::Done;
+    console.write(QJsonObject{{u"name"_s, enumeration.name()},
+                              {u"flags"_s, enumeration.isFlags()},
+                              {u"values"_s, values}});
 }
 
 } // namespace
@@ -103,7 +120,12 @@ ExitCode runEnums(const Invocation &invocation, Console &console)
 {
     if (invocation.operands.isEmpty())
         return listEnums(console);
-    return showEnum(findEnum(invocation.operands.first()), console);
+    const IVEnum &enumeration = findEnum(invocation.operands.first());
+    if (console.isJson())
+        writeJson(enumeration, DisplayTexts::asked(invocation), console);
+    else
+        writeTable(enumeration, DisplayTexts::from(invocation), console);
+    return ExitCode::Done;
 }
 
 } // namespace Norvane::Kilnjet::Tool

@@ -3,6 +3,7 @@
 
 #include "Catalogue.h"
 #include "Commands.h"
+#include "DisplayTexts.h"
 #include "Invocation.h"
 #include "MachineTable.h"
 
@@ -11,7 +12,7 @@ namespace Norvane::Kilnjet::Tool {
 ExitCode runList(const Invocation &invocation, Console &console)
 {
     Catalogue catalogue(StoreSettings::from(invocation), Catalogue::Mode::Read, console);
-    writeMachines(catalogue.machines(), console);
+    writeMachines(catalogue.machines(), DisplayTexts::from(invocation), console);
     return ExitCode::Done;
 }
 

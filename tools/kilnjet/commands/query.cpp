@@ -3,6 +3,7 @@
 
 #include "Catalogue.h"
 #include "Commands.h"
+#include "DisplayTexts.h"
 #include "Invocation.h"
 #include "MachineFilter.h"
 #include "MachineTable.h"
@@ -19,7 +20,7 @@ ExitCode runQuery(const Invocation &invocation, Console &console)
     QList<VPrinterDriver> found;
     std::copy_if(all.begin(), all.end(), std::back_inserter(found),
                  [&filter](const VPrinterDriver &machine) { return filter.matches(machine); });
-    writeMachines(found, console);
+    writeMachines(found, DisplayTexts::from(invocation), console);
     return found.isEmpty() ? ExitCode::Finding : ExitCode::Done;
 }
 

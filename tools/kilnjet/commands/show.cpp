@@ -4,6 +4,7 @@
 #include "Catalogue.h"
 #include "Commands.h"
 #include "Console.h"
+#include "DisplayTexts.h"
 #include "Invocation.h"
 #include "MachineSheet.h"
 #include "Selection.h"
@@ -20,7 +21,8 @@ ExitCode runShow(const Invocation &invocation, Console &console)
         console.write(QJsonObject{{u"id"_s, machine.dataId().toString()},
                                   {u"driver"_s, machine.toJsonObject()}});
     } else {
-        console.write(machineSheet(machine, Paint(console.colour())));
+        console.write(
+            machineSheet(machine, DisplayTexts::from(invocation), Paint(console.colour())));
     }
     return ExitCode::Done;
 }

@@ -83,6 +83,9 @@ public:
     /// True when the store is signed with a key; valid while open.
     bool isKeyed() const;
 
+    /// The version of the file's format that is written and read.
+    static int formatVersion();
+
     /// How long open() and create() wait for another process; 10 seconds at first.
     std::chrono::milliseconds lockTimeout() const;
     void setLockTimeout(std::chrono::milliseconds timeout);
