@@ -39,6 +39,7 @@ private Q_SLOTS:
     void swatches_areOnlyForInks();
     void colours_areForTerminalsOnly_data();
     void colours_areForTerminalsOnly();
+    void values_ofOneTextAreToldApart();
 };
 
 namespace {
@@ -225,6 +226,18 @@ void tst_sheet::colours_areForTerminalsOnly()
     const QByteArray out = process.readAllStandardOutput();
     QVERIFY2(out.contains("Cyan") || out.contains("/name"), out.constData());
     QVERIFY2(out.contains("\x1b[") == isColoured, out.constData());
+}
+
+void tst_sheet::values_ofOneTextAreToldApart()
+{
+    const QJsonObject record =
+        with(printerJson(u"A"_s), u"/children/1/config/levelManagementList"_s,
+             QJsonArray{u"Binary"_s, u"HexaGrayscale"_s});
+    VPrinterDriver machine;
+    QVERIFY(machine.setJsonObject(record));
+    const QString sheet = machineSheet(machine, DisplayTexts(u"it"_s), Paint(Colour::Off));
+    QVERIFY2(sheet.contains(u" Binario, Scala di grigio (HexaGrayscale)\n"_s), qPrintable(sheet));
+    QVERIFY2(sheet.contains(u" Industriali a getto d'inchiostro\n"_s), qPrintable(sheet));
 }
 
 QTEST_GUILESS_MAIN(tst_sheet)

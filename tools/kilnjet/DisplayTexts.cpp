@@ -13,7 +13,6 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTranslator>
 
-#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -56,16 +55,22 @@ QString languageOfEnvironment()
 
 } // namespace
 
-DisplayTexts::DisplayTexts() = default;
-DisplayTexts::DisplayTexts(DisplayTexts &&other) noexcept = default;
-DisplayTexts::~DisplayTexts() = default;
-
 DisplayTexts::DisplayTexts(const QString &language)
 {
     for (const QString &catalogue : displayCatalogues()) {
-        auto texts = std::make_unique<QTranslator>();
-        if (texts->load(u":/translations/%1_%2.qm"_s.arg(catalogue, language)))
-            m_catalogues.emplace(catalogue, std::move(texts));
+        QTranslator translator;
+        const IVEnum *enumeration = VEnumRegistry::find(catalogue);
+        if (enumeration == nullptr
+            || !translator.load(u":/translations/%1_%2.qm"_s.arg(catalogue, language)))
+            continue;
+        const QByteArray context = catalogue.toUtf8();
+        for (const qint64 number : enumeration->names().numbers()) {
+            const QString name = enumeration->names().names(number).first();
+            const QString text =
+                translator.translate(context.constData(), name.toUtf8().constData());
+            if (!text.isEmpty())
+                m_texts[catalogue].insert(name, text);
+        }
     }
 }
 
@@ -85,31 +90,27 @@ DisplayTexts DisplayTexts::asked(const Invocation &invocation)
 
 bool DisplayTexts::has(const QString &enumeration) const
 {
-    return m_catalogues.contains(enumeration);
+    return m_texts.contains(enumeration);
 }
 
 QString DisplayTexts::text(const QString &enumeration, const QString &name) const
 {
-    const auto catalogue = m_catalogues.find(enumeration);
-    if (catalogue == m_catalogues.end())
-        return name;
-    const QString text =
-        catalogue->second->translate(enumeration.toUtf8().constData(), name.toUtf8().constData());
-    return text.isEmpty() ? name : text;
+    return m_texts.value(enumeration).value(name, name);
 }
 
-int DisplayTexts::count(const QString &enumeration) const
+QString DisplayTexts::label(const QString &enumeration, const QString &name) const
 {
-    const IVEnum *values = VEnumRegistry::find(enumeration);
-    const auto catalogue = m_catalogues.find(enumeration);
-    if (values == nullptr || catalogue == m_catalogues.end())
-        return 0;
-    const QByteArray context = enumeration.toUtf8();
-    const auto &numbers = values->names().numbers();
-    return int(std::count_if(numbers.begin(), numbers.end(), [&](qint64 number) {
-        const QByteArray name = values->names().names(number).first().toUtf8();
-        return !catalogue->second->translate(context.constData(), name.constData()).isEmpty();
-    }));
+    const QString shown = text(enumeration, name);
+    const bool isShared = m_texts.value(enumeration).keys(shown).size() > 1;
+    return isShared ? u"%1 (%2)"_s.arg(shown, name) : shown;
+}
+
+qsizetype DisplayTexts::count() const
+{
+    qsizetype count = 0;
+    for (const auto &texts : m_texts)
+        count += texts.size();
+    return count;
 }
 
 QStringList displayLanguages()

@@ -3,13 +3,9 @@
 
 #pragma once
 
+#include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-
-#include <map>
-#include <memory>
-
-class QTranslator;
 
 namespace Norvane::Kilnjet::Tool {
 
@@ -20,11 +16,9 @@ class DisplayTexts
 {
 public:
     /// The stored names themselves.
-    DisplayTexts();
+    DisplayTexts() = default;
     /// The texts of the language with that code; the names where there is none.
     explicit DisplayTexts(const QString &language);
-    DisplayTexts(DisplayTexts &&other) noexcept;
-    ~DisplayTexts();
 
     /// The texts of the language that the option --lang asks for, else of the environment's.
     static DisplayTexts from(const Invocation &invocation);
@@ -35,11 +29,14 @@ public:
     bool has(const QString &enumeration) const;
     /// The text of the value with this name, or the name when there is none.
     QString text(const QString &enumeration, const QString &name) const;
-    /// How many texts there are for values of the enumeration.
-    int count(const QString &enumeration) const;
+    /// As text(), with the name behind it where other values have the same text: "Grayscale
+    /// (HexaGrayscale)".
+    QString label(const QString &enumeration, const QString &name) const;
+    /// How many texts there are altogether.
+    qsizetype count() const;
 
 private:
-    std::map<QString, std::unique_ptr<QTranslator>> m_catalogues; ///< By short name.
+    QHash<QString, QHash<QString, QString>> m_texts; ///< By short name, then by the value's name.
 };
 
 /// The codes of the languages that the library has texts in, in alphabetical order.

@@ -145,7 +145,7 @@ void Sheet::addMachine(const VPrinterDriver &machine)
 
 void Sheet::addPrinter(const QJsonObject &config)
 {
-    addLine(u"Class"_s, m_texts.text(u"PrinterClass"_s, config["printerClass"_L1].toString()), 1);
+    addLine(u"Class"_s, m_texts.label(u"PrinterClass"_s, config["printerClass"_L1].toString()), 1);
     addLine(u"Faces mode"_s, config["facesMode"_L1].toString(), 1);
     addLine(u"Most faces"_s, counted(config["maximumFaces"_L1].toInt(), u"face"_s), 1);
     addLine(u"Largest image"_s, bytesText(config["maximumImageBytes"_L1].toString()), 1);
@@ -205,8 +205,8 @@ void Sheet::addElaboration(const QJsonObject &record, int depth)
     addTitle(title, record, depth);
     QJsonArray levels;
     for (const QJsonValue &level : config["levelManagementList"_L1].toArray())
-        levels.append(m_texts.text(u"LevelManagement"_s, level.toString()));
-    addLine(u"Type"_s, m_texts.text(u"ElaborationType"_s, config["elaborationType"_L1].toString()),
+        levels.append(m_texts.label(u"LevelManagement"_s, level.toString()));
+    addLine(u"Type"_s, m_texts.label(u"ElaborationType"_s, config["elaborationType"_L1].toString()),
             depth + 1);
     addLine(u"Levels"_s, joined(levels), depth + 1);
     addLine(u"Resolutions"_s, resolutions.isEmpty() ? u"none"_s : resolutions.join(u", "_s),

@@ -49,7 +49,7 @@ void writeMachines(const QList<VPrinterDriver> &machines, const DisplayTexts &te
     for (const VPrinterDriver &machine : machines) {
         table.addRow(
             {machine.name(),
-             texts.text(u"PrinterClass"_s, enumText(u"PrinterClass"_s, machine.printerClass())),
+             texts.label(u"PrinterClass"_s, enumText(u"PrinterClass"_s, machine.printerClass())),
              enumText(u"PrinterFacesMode"_s, machine.facesMode()),
              QString::number(machine.maximumFaces()),
              QString::number(machine.count(QUuid(), false)),

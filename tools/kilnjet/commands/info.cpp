@@ -33,11 +33,8 @@ Cargo cargo()
     Cargo cargo;
     cargo.languages = displayLanguages();
     cargo.catalogues = displayCatalogues().size();
-    for (const QString &language : cargo.languages) {
-        const DisplayTexts texts(language);
-        for (const QString &catalogue : displayCatalogues())
-            cargo.texts += texts.count(catalogue);
-    }
+    for (const QString &language : cargo.languages)
+        cargo.texts += DisplayTexts(language).count();
     QDirIterator files(u":/data"_s, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         files.next();
