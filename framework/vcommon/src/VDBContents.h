@@ -35,6 +35,7 @@ struct Entry
 enum class TailState
 {
     Clean,
+    Bare, ///< There is nothing but a header, and nothing says that it is on the disk.
     Unsealed, ///< The last batch is complete, but nothing says that it is on the disk.
     Unfinished, ///< The last batch was never completed.
 };

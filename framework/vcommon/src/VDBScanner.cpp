@@ -168,6 +168,8 @@ void Scanner::report(Reason reason, qint64 offset, qint64 size, qint64 line, con
 void Scanner::run(const HeaderPlace &place)
 {
     readHeaderCopies(place);
+    if (m_position >= m_bytes.size())
+        m_contents.tail = TailState::Bare;
     while (m_position < m_bytes.size())
         readLine();
     readEnd();

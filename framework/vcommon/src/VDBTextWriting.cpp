@@ -46,18 +46,41 @@ QByteArray VDBTextPrivate::tailRepair() const
     QByteArray repair;
     if (contents.endsInsideLine)
         repair += '\n';
-    if (contents.tail != TailState::Clean) {
+    if (contents.tail == TailState::Unsealed || contents.tail == TailState::Unfinished) {
         repair += char(contents.tail == TailState::Unsealed ? LineKind::Seal : LineKind::Void);
         repair += '\n';
     }
     return repair;
 }
 
+/// Has on the disk what a new batch must not be there without.
+///
+/// A power cut may leave later bytes and not earlier ones. A batch without a header would make the
+/// file nobody's; a seal without its batch would say what is not true; and a batch without the mark
+/// that voids the one before it would make that one count.
+bool VDBTextPrivate::syncTail()
+{
+    if (contents.tail == TailState::Clean)
+        return true;
+    if (contents.tail != TailState::Unfinished)
+        return access.sync();
+    const QByteArray repair = tailRepair();
+    const qint64 sizeBefore = access.size();
+    if (!access.write(contents.end, repair) || !access.sync()) {
+        takeBack(sizeBefore, repair.size());
+        return false;
+    }
+    contents.end += repair.size();
+    contents.line += repair.count('\n');
+    contents.endsInsideLine = false;
+    contents.tail = TailState::Clean;
+    return true;
+}
+
 /// Writes the batch behind the content; the file is as it was before when that fails.
 bool VDBTextPrivate::writeBatch()
 {
-    // A seal may only follow what is on the disk.
-    if (contents.tail == TailState::Unsealed && !access.sync())
+    if (!syncTail())
         return false;
     const QByteArray repair = tailRepair();
     EncodedBatch encoded = batch.encode(signer, repair);

@@ -55,6 +55,7 @@ public:
 
 private:
     QByteArray tailRepair() const;
+    bool syncTail();
     void fillAhead(qint64 end);
     void takeBack(qint64 sizeBefore, qint64 written);
     void rememberBatch(EncodedBatch &&encoded, const QByteArray &repair);
