@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MPL-2.0
 
 #include "support/Store.h"
+#include "support/Torture.h"
 
 #include <QtTest/QTest>
 
@@ -118,6 +119,8 @@ void tst_VDBTextDamage::truncation_atEveryByteStillTakesANewBatch()
         QVERIFY2(seen.sound == expected, qPrintable(u"at byte %1"_s.arg(size)));
         QCOMPARE(seen.damagedRecords, 0);
     }
+    figure(u"store cut after each of its %1 bytes: every state that of a whole batch, every next "
+           "batch taken"_s.arg(whole.size()));
 }
 
 void tst_VDBTextDamage::oneFlippedBit_losesOneRecordAtMost_data()
@@ -146,6 +149,9 @@ void tst_VDBTextDamage::oneFlippedBit_losesOneRecordAtMost()
             QVERIFY2(lost(seen.sound) == 0 || !seen.damage.empty(), qPrintable(where));
         }
     }
+    figure(u"all %1 bits of a store flipped %2: no two records lost, 0 altered ones accepted"_s
+               .arg(whole.size() * 8)
+               .arg(QString::fromLatin1(QTest::currentDataTag())));
 }
 
 void tst_VDBTextDamage::oneLostByte_losesOneRecordAtMost()

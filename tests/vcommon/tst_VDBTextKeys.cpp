@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
+#include "support/Seed.h"
 #include "support/Store.h"
+#include "support/Torture.h"
 
-#include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>
 
 using namespace Support;
@@ -37,15 +38,17 @@ void tst_VDBTextKeys::key_ofAnotherOpensNothing()
     const QByteArray before = storeWith({{{u"A"_s, u"x"_s}}}, u"right"_s);
     QByteArray bytes = before;
     QBuffer buffer(&bytes);
-    auto *const random = QRandomGenerator::global();
-    for (int i = 0; i < 1000; ++i) {
-        const QString key = QString::number(random->generate64(), 36);
+    QRandomGenerator random(seed());
+    const int keys = rounds(1'000, 100'000);
+    for (int i = 0; i < keys; ++i) {
+        const QString key = QString::number(random.generate64(), 36);
         QCOMPARE(readStore(&buffer, key).status, VDBStatus::WrongKey);
         QVERIFY(!commit(&buffer, {{u"B"_s, u"y"_s}}, key));
         VDBText store;
         QVERIFY(!createStore(store, &buffer, key));
     }
     QCOMPARE(bytes, before);
+    figure(u"%1 random keys: 0 opened a store, 0 changed a byte of it"_s.arg(keys));
 }
 
 void tst_VDBTextKeys::key_isRefusedByAStoreWithoutOne()
