@@ -174,6 +174,15 @@ mode_t modeOf(int flags, va_list &list)
                       [&](size_t part) { return REAL(name)(handle, data, part, at); });            \
     }
 
+#define SYNC(name)                                                                                 \
+    int name(int handle)                                                                           \
+    {                                                                                              \
+        if (!isWatched(handle))                                                                    \
+            return REAL(name)(handle);                                                             \
+        return judged({FileCall::Sync, #name, 0, handle},                                          \
+                      [&](size_t) { return REAL(name)(handle); });                                 \
+    }
+
 extern "C" {
 
 OPEN(open)
@@ -211,14 +220,8 @@ ssize_t writev(int handle, const iovec *parts, int count)
     PASS_ON(Write, writev, isWatched(handle), handle, parts, count);
 }
 
-int fsync(int handle)
-{
-    PASS_ON(Sync, fsync, isWatched(handle), handle);
-}
-int fdatasync(int handle)
-{
-    PASS_ON(Sync, fdatasync, isWatched(handle), handle);
-}
+SYNC(fsync)
+SYNC(fdatasync)
 
 int ftruncate(int handle, off_t size) noexcept
 {

@@ -29,6 +29,7 @@ struct FileCall
     Kind kind;
     const char *name; ///< The function's.
     std::size_t size = 0; ///< The bytes to be read or written.
+    int handle = -1; ///< Of a Sync, what is synced.
 };
 
 /// What becomes of a call.

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QString>
 #include <QtCore/QtGlobal>
 
@@ -29,6 +31,15 @@ inline std::chrono::seconds tortureLimit()
 {
     using namespace std::chrono_literals;
     return isTorture() ? 1700s : 280s;
+}
+
+/// The template of a temporary folder, in memory where there is such a place: tens of thousands of
+/// syncs would take minutes.
+inline QString folderInMemory()
+{
+    const QFileInfo memory(QStringLiteral("/dev/shm"));
+    const QString folder = memory.isWritable() ? memory.canonicalFilePath() : QDir::tempPath();
+    return folder + QStringLiteral("/kilnjet-XXXXXX");
 }
 
 /// Prints what a test has found, for the summary of `./dev torture`.

@@ -52,4 +52,22 @@ inline Stored after(Stored before, const Step &step)
     return before;
 }
 
+/// Takes the step; false when the database does not acknowledge it.
+[[nodiscard]] inline bool take(VPrintersDb &database, const Step &step)
+{
+    if (step.isPurge)
+        return database.purge();
+    // Something to write in any case: removing what is not there is no change.
+    int commits = 0;
+    const auto connection = QObject::connect(
+        &database, &VPrintersDb::committed, &database, [&commits] { ++commits; },
+        Qt::DirectConnection);
+    database.removes(step.removed);
+    database.insert(step.inserted);
+    const bool isDirty = database.isDirty();
+    database.commit();
+    QObject::disconnect(connection);
+    return commits == (isDirty ? 1 : 0) && !database.isDirty();
+}
+
 } // namespace Torture

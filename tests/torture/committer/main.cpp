@@ -14,27 +14,6 @@
 
 using namespace Torture;
 
-namespace {
-
-bool live(VPrintersDb &database, const Step &step)
-{
-    if (step.isPurge)
-        return database.purge();
-    // Something to write in any case: removing what is not there is no change.
-    int commits = 0;
-    const auto connection = QObject::connect(
-        &database, &VPrintersDb::committed, &database, [&commits] { ++commits; },
-        Qt::DirectConnection);
-    database.removes(step.removed);
-    database.insert(step.inserted);
-    const bool isDirty = database.isDirty();
-    database.commit();
-    QObject::disconnect(connection);
-    return commits == (isDirty ? 1 : 0) && !database.isDirty();
-}
-
-} // namespace
-
 int main(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
@@ -45,7 +24,7 @@ int main(int argc, char *argv[])
     if (!database.isReady())
         return 1;
     for (quint32 number = arguments.value(3).toUInt();; ++number) {
-        if (!live(database, stepAt(seed, number)) || ::write(STDOUT_FILENO, ".", 1) != 1)
+        if (!take(database, stepAt(seed, number)) || ::write(STDOUT_FILENO, ".", 1) != 1)
             return 1;
     }
 }
