@@ -3,6 +3,7 @@
 
 #include "support/Printers.h"
 #include "support/Seed.h"
+#include "support/Torture.h"
 
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
@@ -213,7 +214,7 @@ void tst_model::randomEdits_agreeWithTheModel_data()
 {
     QTest::addColumn<quint32>("seed");
     const quint32 first = seed();
-    for (quint32 i = 0; i < 20; ++i)
+    for (quint32 i = 0; i < quint32(rounds(20, 1'000)); ++i)
         QTest::addRow("seed %u", first + i) << first + i;
 }
 

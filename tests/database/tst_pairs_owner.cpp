@@ -11,8 +11,16 @@ class tst_pairs_owner : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanupTestCase() const
+    {
+        figure(
+            u"%1 runs of pairs of operations, in one thread: 0 hung, 0 edits lost"_s.arg(m_runs));
+    }
     void pair_neitherHangsNorLosesAnEdit_data();
     void pair_neitherHangsNorLosesAnEdit();
+
+private:
+    int m_runs = 0;
 };
 
 void tst_pairs_owner::pair_neitherHangsNorLosesAnEdit_data()
@@ -25,9 +33,10 @@ void tst_pairs_owner::pair_neitherHangsNorLosesAnEdit()
     QFETCH(Operation, first);
     QFETCH(Operation, second);
     QFETCH(bool, isWarm);
-    const Watchdog watchdog(QTest::currentDataTag());
+    const Watchdog watchdog(QTest::currentDataTag(), pairLimit());
     const bool keepsFirst = isCommit(first) || (!isLoad(first) && !isLoad(second));
-    for (int i = pairRounds(); i > 0; --i) {
+    for (int i = pairRounds(first, second); i > 0; --i) {
+        ++m_runs;
         Subject subject;
         isWarm ? makePoolWarm() : makePoolCold();
         const VPrinterDriver firstEdit = subject.edit();

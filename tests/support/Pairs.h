@@ -5,12 +5,11 @@
 
 #include "support/Pool.h"
 #include "support/Printers.h"
+#include "support/Torture.h"
 #include "support/Watchdog.h"
 
 #include <QtTest/QTest>
 
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 
 #include <atomic>
@@ -66,12 +65,26 @@ inline bool isCommit(Operation operation)
         || operation == Operation::Restore || operation == Operation::Destroy;
 }
 
-/// How often each pair runs.
-inline int pairRounds()
+/// True for the operations whose pairs run most often under torture.
+inline bool isOfTheMatrix(Operation operation)
+{
+    return operation != Operation::InitForeground && operation != Operation::Purge
+        && operation != Operation::Wait;
+}
+
+/// How often a pair runs.
+inline int pairRounds(Operation first, Operation second)
 {
     bool isGiven = false;
-    const int rounds = qEnvironmentVariableIntValue("KILNJET_PAIR_ROUNDS", &isGiven);
-    return isGiven ? rounds : 20;
+    const int given = qEnvironmentVariableIntValue("KILNJET_PAIR_ROUNDS", &isGiven);
+    const bool isOfBoth = isOfTheMatrix(first) && isOfTheMatrix(second);
+    return isGiven ? given : rounds(20, isOfBoth ? 2'000 : 200);
+}
+
+/// What no row of a test reaches unless it hangs.
+inline std::chrono::seconds pairLimit()
+{
+    return std::chrono::seconds(rounds(60, 600));
 }
 
 /// One row for each pair of operations that `takes` accepts, with and without idle pool threads.
@@ -162,14 +175,6 @@ public:
     }
 
 private:
-    /// A folder in memory where there is one: tens of thousands of syncs would take minutes.
-    static QString folderTemplate()
-    {
-        const QFileInfo memory(u"/dev/shm"_s);
-        const QString folder = memory.isWritable() ? memory.filePath() : QDir::tempPath();
-        return folder + u"/kilnjet-XXXXXX"_s;
-    }
-
     void expect(bool success)
     {
         if (!success)
@@ -182,7 +187,7 @@ private:
         m_database->init(true);
     }
 
-    QTemporaryDir m_dir{folderTemplate()};
+    QTemporaryDir m_dir{folderInMemory()};
     std::unique_ptr<VPrintersDb> m_database;
     int m_edits = 0;
     std::atomic<bool> m_succeeds = true;
