@@ -200,7 +200,7 @@ void tst_damage::truncation_keepsTheCommitsBeforeIt()
 {
     QFETCH(QString, key);
     const QList<VPrinterDriver> list =
-        isTorture() ? drivers(12) : printers({u"A"_s, u"B"_s, u"C"_s});
+        isTorture() ? drivers(6) : printers({u"A"_s, u"B"_s, u"C"_s});
     const QByteArray whole = bytesOfCommits(list, key);
     int lostBefore = int(list.size());
     for (qsizetype size = 0; size <= whole.size(); ++size) {

@@ -122,7 +122,7 @@ void tst_threads_model::randomOperations_agreeWithTheModel()
     const QTemporaryDir folder(folderInMemory());
     const QString path = folder.filePath(u"live.tdb"_s);
     const quint32 first = seed();
-    const int steps = rounds(100, 5'000);
+    const int steps = rounds(100, 1'000);
     std::vector<Part> parts;
     for (int i = 0; i < kThreads; ++i)
         parts.emplace_back(i, first, folder.path());

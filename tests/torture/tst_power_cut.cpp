@@ -75,7 +75,7 @@ void tst_power_cut::powerCut_leavesTheOldStateOrTheNewAndLosesNothingAcknowledge
 {
     FileCalls::watch(m_folder.path().toStdString());
     m_seed = seed();
-    const int states = rounds(1'000, 50'000);
+    const int states = rounds(1'000, 20'000);
     constexpr int kStatesOfALife = 20;
     constexpr int kLivesOfAFile = 8;
     for (int i = 0; i < states; ++i) {
