@@ -24,12 +24,16 @@ public:
     }
 };
 
-/// `Codec`, if `record` is of the class `Record` itself: one that derives from it may read and
-/// write otherwise.
-template<typename Codec, typename Record>
-const Hardware::VDeviceConfigCodec *codecFor(const Record &record)
+/// `codec`, if `record` is of the class `Record` itself: one that derives from it may read and write
+/// otherwise.
+///
+/// Codecs are objects of their own, made at load: a static object in a template would keep the
+/// library in memory for good, and one made at first use might be gone when a database that is a
+/// static object of its host commits on its way out.
+template<typename Record>
+const Hardware::VDeviceConfigCodec *codecFor(const Record &record,
+                                             const Hardware::VDeviceConfigCodec &codec)
 {
-    static const Codec codec;
     return typeid(record) == typeid(Record) ? &codec : nullptr;
 }
 

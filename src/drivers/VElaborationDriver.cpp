@@ -18,6 +18,8 @@ namespace Norvane::Kilnjet {
 
 namespace {
 
+const RecordCodec<VElaborationDriver> kCodec;
+
 using Imaging::VResolution;
 
 /// The version of the format that this library writes.
@@ -227,7 +229,7 @@ bool VElaborationDriver::setInnerJsonObject(const QJsonObject &object)
 
 const Hardware::VDeviceConfigCodec *VElaborationDriver::codec() const
 {
-    return codecFor<RecordCodec<VElaborationDriver>>(*this);
+    return codecFor(*this, kCodec);
 }
 
 bool VElaborationDriver::innerIsValid() const

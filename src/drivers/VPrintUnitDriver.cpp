@@ -18,6 +18,8 @@ namespace Norvane::Kilnjet {
 
 namespace {
 
+const RecordCodec<VPrintUnitDriver> kCodec;
+
 /// The version of the format that this library writes, and the first that sorts channels by name.
 constexpr VVersion kFormatVersion(1, 1, 0);
 
@@ -158,7 +160,7 @@ bool VPrintUnitDriver::setInnerJsonObject(const QJsonObject &object)
 
 const Hardware::VDeviceConfigCodec *VPrintUnitDriver::codec() const
 {
-    return codecFor<RecordCodec<VPrintUnitDriver>>(*this);
+    return codecFor(*this, kCodec);
 }
 
 QUuid VPrintUnitDriver::innerDataId(bool *ok) const

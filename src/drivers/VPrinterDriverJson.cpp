@@ -124,6 +124,8 @@ void VPrinterDriverPrivate::readJson(const Object &object)
 class VPrinterDriver::Codec final : public Hardware::VDeviceConfigCodec
 {
 public:
+    static const Codec instance;
+
     void read(Hardware::VDeviceConfig &record, const VJsonTextObject &config) const override
     {
         static_cast<VPrinterDriver &>(record).own().readJson(config);
@@ -147,9 +149,11 @@ public:
     }
 };
 
+const VPrinterDriver::Codec VPrinterDriver::Codec::instance;
+
 const Hardware::VDeviceConfigCodec *VPrinterDriver::codec() const
 {
-    return codecFor<Codec>(*this);
+    return codecFor(*this, Codec::instance);
 }
 
 QJsonObject VPrinterDriver::toInnerJsonObject() const
