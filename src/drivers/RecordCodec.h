@@ -24,8 +24,8 @@ public:
     }
 };
 
-/// `codec`, if `record` is of the class `Record` itself: one that derives from it may read and write
-/// otherwise.
+/// `codec`, if `record` is of the class `Record` itself: one that derives from it may read and
+/// write otherwise.
 ///
 /// Codecs are objects of their own, made at load: a static object in a template would keep the
 /// library in memory for good, and one made at first use might be gone when a database that is a
