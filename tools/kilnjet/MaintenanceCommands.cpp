@@ -108,7 +108,7 @@ Command reindexCommand()
 {
     return {
         .name = "reindex"_L1,
-        .summary = "Build the database's index anew and load all machines with it"_L1,
+        .summary = "Build the index anew and load all machines with it"_L1,
         .description =
             "Reads the whole file, builds the index of its records, loads every machine, and says "
             "how many there are. The index is kept in memory and not in the file: no byte of the "
@@ -127,7 +127,7 @@ Command recoverCommand()
 {
     return {
         .name = "recover"_L1,
-        .summary = "Carry what is readable in a damaged database into a new one"_L1,
+        .summary = "Carry what a damaged file still holds into a new one"_L1,
         .description =
             "For files that other commands refuse or find damaged: without a sound header, with "
             "overwritten or missing parts, cut off, joined from pieces, converted by an editor. "

@@ -24,6 +24,10 @@ namespace Norvane::Database {
 
 namespace {
 
+/// How long a purge waits for its new file when another process was quicker to lock it: as long as
+/// that one may take for a commit on a slow disk.
+constexpr std::chrono::seconds kRelockTimeout(10);
+
 /// Content is read and copied in blocks of this size.
 constexpr qint64 kBlock = 1024 * 1024;
 
@@ -389,7 +393,7 @@ bool Device::swapFile(QFileDevice *fileDevice, const std::vector<ContentPart> &p
     closeLater(duplicateHandle(fileDevice->handle()));
     if (!reopen(mode))
         return false;
-    m_isLocked = lockFile(fileDevice->handle(), true, std::chrono::seconds(1));
+    m_isLocked = lockFile(fileDevice->handle(), true, kRelockTimeout);
     // Others may have been quicker to lock the new file. What they append makes it longer, since
     // there is no filling in it, and what they swap in is another file as long as ours is open.
     const std::optional<FileIdentity> ours = fileIdentity(fresh.handle());

@@ -40,15 +40,16 @@ public:
     template<typename Object>
     static VResolution fromJson(const Object &object)
     {
-        return {object.value(kX).toDouble(), object.value(kY).toDouble(),
-                ResolutionUnit_T::instance().valueOf(object.value(kUnit))};
+        return {object.value(QLatin1StringView("x")).toDouble(),
+                object.value(QLatin1StringView("y")).toDouble(),
+                ResolutionUnit_T::instance().valueOf(object.value(QLatin1StringView("unit")))};
     }
     template<typename Writer>
     void writeJson(Writer &object) const
     {
-        object.insert(kUnit, ResolutionUnit_T::instance().textOf(m_unit));
-        object.insert(kX, m_x);
-        object.insert(kY, m_y);
+        object.insert(QLatin1StringView("unit"), ResolutionUnit_T::instance().textOf(m_unit));
+        object.insert(QLatin1StringView("x"), m_x);
+        object.insert(QLatin1StringView("y"), m_y);
     }
 
     /// "400 x 360 DPI", the numbers as `locale` writes them.
@@ -59,10 +60,6 @@ public:
     bool operator!=(const VResolution &other) const { return !(*this == other); }
 
 private:
-    static constexpr QLatin1StringView kUnit{"unit"};
-    static constexpr QLatin1StringView kX{"x"};
-    static constexpr QLatin1StringView kY{"y"};
-
     double m_x = 0.0;
     double m_y = 0.0;
     ResolutionUnit m_unit = ResolutionUnit::PPM;
