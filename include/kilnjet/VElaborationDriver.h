@@ -95,9 +95,9 @@ private:
     friend class RecordCodec;
 
     template<typename Object>
-    void readJson(const Object &object);
+    Q_DECL_HIDDEN void readJson(const Object &object);
     template<typename Writer>
-    void writeJson(Writer &object) const;
+    Q_DECL_HIDDEN void writeJson(Writer &object) const;
 
     bool m_allowOnlineElaboration = false;
     bool m_prefered = false;

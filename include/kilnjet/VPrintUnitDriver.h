@@ -74,9 +74,9 @@ private:
     friend class RecordCodec;
 
     template<typename Object>
-    void readJson(const Object &object);
+    Q_DECL_HIDDEN void readJson(const Object &object);
     template<typename Writer>
-    void writeJson(Writer &object) const;
+    Q_DECL_HIDDEN void writeJson(Writer &object) const;
 
     QList<Channel> m_channels;
     bool m_customHorizontalResolution = false;

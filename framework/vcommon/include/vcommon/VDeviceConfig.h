@@ -163,12 +163,12 @@ private:
     VDeviceConfigChildren &ownChildren() const;
     // What reads and writes the envelope, from a tree or from text alike.
     template<typename Object>
-    bool readEnvelope(const Object &envelope, const Prototypes &prototypes);
+    Q_DECL_HIDDEN bool readEnvelope(const Object &envelope, const Prototypes &prototypes);
     bool readConfig(const QJsonObject &config);
     bool readConfig(const VJsonTextObject &config);
     void readText(const VJsonTextObject &envelope, const Prototypes &prototypes);
     template<typename Writer>
-    void writeEnvelope(Writer &envelope) const;
+    Q_DECL_HIDDEN void writeEnvelope(Writer &envelope) const;
     void writeConfig(VJsonTreeWriter &envelope) const;
     void writeConfig(VJsonTextWriter &envelope) const;
     void writeText(VJsonTextWriter &envelope) const;
