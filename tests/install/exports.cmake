@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Norvane
 # SPDX-License-Identifier: MPL-2.0
 
-# The shared objects export their public classes and nothing else: no instance of a template, no
+# The shared objects export their public classes and functions and nothing else: no instance of a template, no
 # inline function of Qt or of the standard library that the compiler left behind.
 include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
@@ -33,5 +33,5 @@ set(classes VPrintersDb VPrinterDriver VPrintUnitDriver VElaborationDriver VMagn
 list(JOIN classes "|" classes)
 strangers(vkilnjet "^Norvane::Kilnjet::(${classes})(::|$)")
 foreach(library IN ITEMS vcore vcommon vimaging)
-    strangers(${library} "^Norvane::[A-Z]")
+    strangers(${library} "^Norvane::([A-Z]|parallelFor\\()")
 endforeach()
