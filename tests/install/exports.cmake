@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Norvane
 # SPDX-License-Identifier: MPL-2.0
 
-# The shared objects export their public classes and functions and nothing else: no instance of a template, no
+# The shared objects export their public interface and nothing else: no instance of a template, no
 # inline function of Qt or of the standard library that the compiler left behind.
 include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
