@@ -131,7 +131,7 @@ mode_t modeOf(int flags, va_list &list)
 
 } // namespace
 
-// NOLINTBEGIN: the system's functions have the system's names.
+// NOLINTBEGIN(bugprone-reserved-identifier): the system's functions have the system's names.
 #define REAL(name) real<decltype(name)>(#name)
 #define PASS_ON(kind, name, watched, ...)                                                          \
     return passOn(REAL(name), FileCall::kind, #name, watched, __VA_ARGS__)
@@ -323,4 +323,4 @@ int fchown(int handle, uid_t owner, gid_t group) noexcept
 }
 
 } // extern "C"
-// NOLINTEND
+// NOLINTEND(bugprone-reserved-identifier)

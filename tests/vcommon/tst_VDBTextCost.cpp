@@ -25,7 +25,7 @@ std::atomic<int> allocations = 0;
 } // namespace
 
 #if COUNTS_ALLOCATIONS
-// NOLINTBEGIN: the system's functions have the system's names.
+// NOLINTBEGIN(bugprone-reserved-identifier): the system's functions have the system's names.
 extern "C" {
 
 void *__libc_malloc(std::size_t size);
@@ -44,7 +44,7 @@ void *realloc(void *memory, std::size_t size) noexcept
 }
 
 } // extern "C"
-// NOLINTEND
+// NOLINTEND(bugprone-reserved-identifier)
 #endif
 
 using namespace Support;
