@@ -4,28 +4,38 @@
 include(CMakePackageConfigHelpers)
 
 # vkilnjet_add_library(NAME
+#     DESCRIPTION TEXT         what it is, in a line
 #     INCLUDE_DIR DIR          folder that holds the public headers, as they are included
 #     SOURCES FILE...
 #     PUBLIC TARGET...         what the public headers need
 #     [PRIVATE TARGET...]      what only the implementation needs
 #     [QT COMPONENT...]        Qt components that a user of the installed library must find
-#     [PACKAGES NAME...])      packages of this project that it must find
+#     [PACKAGES NAME...]       packages of this project that it must find
+#     [COMPONENTS NAME...])    packages that a user may name as components of this one
 #
-# A shared library with hidden symbols, the alias Norvane::NAME, and its own installed package
-# NAME (find_package(NAME CONFIG)).
+# A shared library with hidden symbols, the alias Norvane::NAME, a header <FOLDER/Version.h>, and its
+# own installed packages NAME: for CMake (find_package(NAME CONFIG)) and for pkg-config.
 function(vkilnjet_add_library name)
-    cmake_parse_arguments(arg "" "INCLUDE_DIR" "SOURCES;PUBLIC;PRIVATE;QT;PACKAGES" ${ARGN})
+    cmake_parse_arguments(arg "" "INCLUDE_DIR;DESCRIPTION"
+        "SOURCES;PUBLIC;PRIVATE;QT;PACKAGES;COMPONENTS" ${ARGN})
 
     add_library(${name} SHARED ${arg_SOURCES})
     add_library(Norvane::${name} ALIAS ${name})
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS "${arg_INCLUDE_DIR}/*.h")
+    string(TOUPPER ${name} upper)
+    set(made "${CMAKE_CURRENT_BINARY_DIR}/include")
+    file(GLOB folder RELATIVE "${arg_INCLUDE_DIR}" "${arg_INCLUDE_DIR}/*")
+    set(LIBRARY_NAME "${name}")
+    set(LIBRARY_PREFIX "${upper}")
+    set(LIBRARY_FOLDER "${folder}")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/Version.h.in" "${made}/${folder}/Version.h" @ONLY)
     target_sources(${name} PUBLIC
-        FILE_SET HEADERS BASE_DIRS "${arg_INCLUDE_DIR}" FILES ${headers})
+        FILE_SET HEADERS BASE_DIRS "${arg_INCLUDE_DIR}" "${made}"
+        FILES ${headers} "${made}/${folder}/Version.h")
     target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name}
         PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} $<BUILD_INTERFACE:vkilnjet_compiler>)
-    string(TOUPPER ${name} upper)
     set_target_properties(${name} PROPERTIES
         LINKER_LANGUAGE CXX
         DEFINE_SYMBOL ${upper}_LIBRARY
@@ -51,6 +61,7 @@ function(vkilnjet_add_library name)
 
     set(PACKAGE_QT_COMPONENTS "${arg_QT}")
     set(PACKAGE_DEPENDENCIES "${arg_PACKAGES}")
+    set(PACKAGE_COMPONENTS "${arg_COMPONENTS}")
     set(PACKAGE_NAME "${name}")
     configure_package_config_file(
         "${PROJECT_SOURCE_DIR}/cmake/PackageConfig.cmake.in" "${name}Config.cmake"
@@ -60,4 +71,15 @@ function(vkilnjet_add_library name)
         "${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake"
         "${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake"
         DESTINATION "${package_dir}")
+
+    # The file finds its prefix from where it lies itself.
+    set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+    file(RELATIVE_PATH PC_TO_PREFIX "/${pc_dir}" "/")
+    string(REGEX REPLACE "/$" "" PC_TO_PREFIX "${PC_TO_PREFIX}")
+    list(TRANSFORM arg_PUBLIC REPLACE "^Qt6::(.+)" "Qt6\\1 >= 6.4" OUTPUT_VARIABLE requires)
+    list(TRANSFORM requires REPLACE "^Norvane::" "")
+    list(JOIN requires ", " PC_REQUIRES)
+    set(PC_DESCRIPTION "${arg_DESCRIPTION}")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/Library.pc.in" "${name}.pc" @ONLY)
+    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${name}.pc" DESTINATION "${pc_dir}")
 endfunction()

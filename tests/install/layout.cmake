@@ -12,7 +12,7 @@ foreach(library IN ITEMS vcore vcommon vimaging vkilnjet)
     endif()
 endforeach()
 
-file(GLOB_RECURSE texts "${PREFIX}/*.cmake" "${PREFIX}/*.h")
+file(GLOB_RECURSE texts "${PREFIX}/*.cmake" "${PREFIX}/*.h" "${PREFIX}/*.pc")
 foreach(text IN LISTS texts)
     file(READ "${text}" content)
     foreach(folder IN ITEMS "${BUILD}" "${SOURCE}" "${WORK}")

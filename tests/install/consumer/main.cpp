@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: MPL-2.0
 
 #include <kilnjet/VElaborationDriver.h>
+#include <kilnjet/VKilnjetInfo.h>
 #include <kilnjet/VPrintUnitDriver.h>
 #include <kilnjet/VPrinterDriver.h>
 #include <kilnjet/VPrintersDb.h>
+#include <kilnjet/Version.h>
+#include <vcommon/Version.h>
 #include <vcore/VVersion.h>
+#include <vcore/Version.h>
 #include <vimaging/VResolution.h>
+#include <vimaging/Version.h>
 
 #include <QtCore/QCoreApplication>
 
@@ -15,6 +20,13 @@
 
 using namespace Norvane;
 using namespace Norvane::Kilnjet;
+
+static_assert(VKILNJET_VERSION >= QT_VERSION_CHECK(2, 0, 0));
+static_assert(VKILNJET_VERSION
+              == QT_VERSION_CHECK(VKILNJET_VERSION_MAJOR, VKILNJET_VERSION_MINOR,
+                                  VKILNJET_VERSION_PATCH));
+static_assert(VCORE_VERSION == VKILNJET_VERSION && VCOMMON_VERSION == VKILNJET_VERSION
+              && VIMAGING_VERSION == VKILNJET_VERSION);
 
 int main(int argc, char **argv)
 {
@@ -39,7 +51,10 @@ int main(int argc, char **argv)
     VPrintersDb found(file, QString());
     found.init(false);
     const bool same = found.value(printer.dataId()) == printer;
-    std::printf("version %s, %d in the database, %s\n", qPrintable(printer.version().toString()),
-                found.count(), same ? "equal" : "not equal");
-    return same ? 0 : 1;
+    const bool isOwnVersion = VKilnjetInfo::version()
+        == VVersion(VKILNJET_VERSION_MAJOR, VKILNJET_VERSION_MINOR, VKILNJET_VERSION_PATCH);
+    std::printf("version %s, %s; %d in the database, %s\n", VKILNJET_VERSION_STRING,
+                isOwnVersion ? "that of the library" : "not that of the library", found.count(),
+                same ? "equal" : "not equal");
+    return same && isOwnVersion ? 0 : 1;
 }
