@@ -6,19 +6,11 @@
 #include "ProgressLine.h"
 #include "Text.h"
 
+#include <platform/terminal.h>
+
 #include <QtCore/QJsonDocument>
 
 #include <cerrno>
-#include <csignal>
-#include <cstdio>
-
-#ifdef Q_OS_WIN
-#include <fcntl.h>
-#include <io.h>
-#include <windows.h>
-#else
-#include <unistd.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -28,31 +20,6 @@ namespace {
 
 /// How much data is gathered before it is written.
 constexpr qsizetype kFlushSize = 64 * 1024;
-
-/// UTF-8 without translation of line ends, and a closed pipe as an error instead of a signal.
-void prepareStandardStreams()
-{
-#ifdef Q_OS_WIN
-    SetConsoleOutputCP(CP_UTF8);
-    _setmode(_fileno(stdout), _O_BINARY);
-    _setmode(_fileno(stderr), _O_BINARY);
-#else
-    std::signal(SIGPIPE, SIG_IGN);
-#endif
-}
-
-/// True when the stream is a terminal that obeys escape sequences.
-bool isTerminal(std::FILE *stream)
-{
-#ifdef Q_OS_WIN
-    const HANDLE output = HANDLE(_get_osfhandle(_fileno(stream)));
-    DWORD mode = 0;
-    return GetConsoleMode(output, &mode) != 0
-        && SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
-#else
-    return ::isatty(fileno(stream)) == 1 && qgetenv("TERM") != "dumb";
-#endif
-}
 
 /// The JSON text with the control characters above ASCII's first block escaped as well: a terminal
 /// would obey them.
@@ -93,19 +60,19 @@ QJsonObject messageObject(const Failure &failure)
 Console::Console(Format format)
     : m_format(format)
 {
-    prepareStandardStreams();
+    Platform::prepareStandardStreams();
 }
 
 Colour Console::colour() const
 {
     const bool isWanted =
-        !isJson() && qEnvironmentVariableIsEmpty("NO_COLOR") && isTerminal(stdout);
+        !isJson() && qEnvironmentVariableIsEmpty("NO_COLOR") && Platform::isTerminal(stdout);
     return isWanted ? Colour::On : Colour::Off;
 }
 
 std::FILE *Console::screen() const
 {
-    return !isJson() && !m_isQuiet && isTerminal(stderr) ? stderr : nullptr;
+    return !isJson() && !m_isQuiet && Platform::isTerminal(stderr) ? stderr : nullptr;
 }
 
 void Console::write(const QString &text)

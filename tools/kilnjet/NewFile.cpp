@@ -6,53 +6,16 @@
 #include "Failure.h"
 #include "Text.h"
 
+#include <platform/filesystem.h>
+#include <platform/nativepath.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QUuid>
 
-#include <filesystem>
-#include <system_error>
-
-#ifdef Q_OS_WIN
-#include <io.h>
-#else
-#include <fcntl.h>
-#include <unistd.h>
-#endif
-
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Kilnjet::Tool {
-
-namespace {
-
-/// Makes the names in a folder survive a power cut, where a system does not see to that by itself.
-bool syncFolder(const QString &path)
-{
-#ifdef Q_OS_WIN
-    Q_UNUSED(path)
-    return true;
-#else
-    const int handle =
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return false;
-    const bool isSynced = syncFile(handle);
-    ::close(handle);
-    return isSynced;
-#endif
-}
-
-} // namespace
-
-bool syncFile(int handle)
-{
-#ifdef Q_OS_WIN
-    return _commit(handle) == 0;
-#else
-    return ::fsync(handle) == 0;
-#endif
-}
 
 NewFile::NewFile(const QString &place)
     : m_name(place)
@@ -84,14 +47,12 @@ void NewFile::takePlace()
     const QFileInfo target(m_place);
     if (target.exists())
         QFile::setPermissions(m_path, target.permissions());
-    std::error_code error;
-    std::filesystem::rename(QFile(m_path).filesystemFileName(), QFile(m_place).filesystemFileName(),
-                            error);
-    if (error)
-        fail(QString::fromLocal8Bit(error.message().c_str()));
+    const std::filesystem::path place = Platform::nativePath(m_place);
+    if (!Platform::replaceFile(Platform::nativePath(m_path), place))
+        fail(qt_error_string(Platform::lastError()));
     m_path.clear();
-    if (!syncFolder(target.absolutePath()))
-        fail(qt_error_string());
+    if (!Platform::syncFolderOf(place))
+        fail(qt_error_string(Platform::lastError()));
 }
 
 void NewFile::fail(const QString &why, const QString &hint) const

@@ -33,7 +33,4 @@ private:
     QString m_path;
 };
 
-/// Makes the content of an open file survive a power cut.
-[[nodiscard]] bool syncFile(int handle);
-
 } // namespace Norvane::Kilnjet::Tool

@@ -6,6 +6,8 @@
 #include "Failure.h"
 #include "NewFile.h"
 
+#include <platform/filesystem.h>
+
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
@@ -46,8 +48,8 @@ void writeFile(const QString &path, const QByteArray &bytes)
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)
         || !writeAll(file, bytes))
         fail(path, file.errorString());
-    if (!syncFile(file.handle()))
-        fail(path, qt_error_string());
+    if (!Platform::syncFile(file.handle()))
+        fail(path, qt_error_string(Platform::lastError()));
     file.close();
     fresh.takePlace();
 }

@@ -5,11 +5,9 @@
 
 #include "Text.h"
 
-#include <algorithm>
+#include <platform/terminal.h>
 
-#ifndef Q_OS_WIN
-#include <sys/ioctl.h>
-#endif
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -20,18 +18,6 @@ namespace {
 constexpr std::chrono::milliseconds kFrame{100};
 constexpr int kBarWidth = 20;
 constexpr int kUsualColumns = 80;
-
-int columnsOf(std::FILE *screen)
-{
-#ifdef Q_OS_WIN
-    Q_UNUSED(screen)
-    return kUsualColumns;
-#else
-    winsize size = {};
-    return ::ioctl(fileno(screen), TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col
-                                                                              : kUsualColumns;
-#endif
-}
 
 /// `text` cut to `columns`.
 QString cut(QString text, int columns)
@@ -103,7 +89,8 @@ void ProgressLine::_draw()
 {
     const QString state = text();
     // The last column stays free: some terminals break the line behind it.
-    const int columns = columnsOf(m_screen) - 1;
+    const int known = Platform::terminalColumns(m_screen);
+    const int columns = (known > 0 ? known : kUsualColumns) - 1;
     const QString line =
         cut(cut(m_label, std::max(columns - displayWidth(state), 0)) + state, columns);
     const int width = displayWidth(line);

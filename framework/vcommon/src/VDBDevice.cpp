@@ -3,6 +3,7 @@
 
 #include "VDBDevice.h"
 
+#include <platform/nativepath.h>
 #include <vcommon/IVDurableDevice.h>
 #include <vcore/VParallel.h>
 
@@ -13,7 +14,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cerrno>
 #include <new>
 #include <system_error>
 #include <tuple>
@@ -21,6 +21,8 @@
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Database {
+
+using namespace Platform;
 
 namespace {
 
@@ -80,9 +82,15 @@ QString freshPathOf(const QString &path)
     return info.path() + u'/' + QString::fromLatin1(sum.toHex()) + suffix;
 }
 
+/// The system's words for the last failure in this thread.
+QString lastErrorString()
+{
+    return qt_error_string(lastError());
+}
+
 /// Reads a range of a file on all cores: most of the time goes into making fresh memory usable. How
-/// much it was, or -1.
-qint64 readFileParallel(int handle, qint64 at, char *to, qint64 size)
+/// much it was, or -1 and the error's number.
+qint64 readFileParallel(int handle, qint64 at, char *to, qint64 size, int &failure)
 {
     std::atomic<qint64> end = size;
     std::atomic<int> error = 0;
@@ -92,14 +100,12 @@ qint64 readFileParallel(int handle, qint64 at, char *to, qint64 size)
             const qint64 wanted = std::min(qint64(last) * kBlock, size) - from;
             const qint64 got = readFileAt(handle, at + from, to + from, wanted);
             if (got < 0)
-                error = errno;
+                error = lastError();
             for (qint64 known = end; got < wanted && known > from + std::max(got, qint64(0));)
                 end.compare_exchange_weak(known, from + std::max(got, qint64(0)));
         });
-    if (error == 0)
-        return end;
-    errno = error;
-    return -1;
+    failure = error;
+    return failure == 0 ? qint64(end) : -1;
 }
 
 } // namespace
@@ -179,12 +185,12 @@ VDBStatus Device::openFile(QFileDevice *fileDevice, Intent intent,
         m_isLocked = lockFile(fileDevice->handle(), intent != Intent::Read,
                               std::max(left, std::chrono::milliseconds(0)));
         if (!m_isLocked) {
-            m_error = lastFileError();
+            m_error = lastErrorString();
             return VDBStatus::Locked;
         }
         // Whoever held the lock may have swapped another file in; the lock must be on that one.
         const std::optional<FileIdentity> locked = fileIdentity(fileDevice->handle());
-        const std::optional<FileIdentity> current = fileIdentity(path);
+        const std::optional<FileIdentity> current = fileIdentity(nativePath(path));
         if (locked && current && locked->isSameFileAs(*current))
             return VDBStatus::Ok;
         if (!locked || (!current && QFileInfo::exists(path))) {
@@ -201,11 +207,33 @@ VDBStatus Device::openFile(QFileDevice *fileDevice, Intent intent,
     }
 }
 
+/// Opens a device that is closed: a file so that it can be replaced while it is open.
+bool Device::openClosed(QIODevice &device, QIODevice::OpenMode mode)
+{
+    // Other classes open their files in ways of their own.
+    if constexpr (!kReplacesAnyOpenFile) {
+        if (device.metaObject() == &QFile::staticMetaObject) {
+            auto &file = static_cast<QFile &>(device);
+            const int handle = openReplaceable(
+                nativePath(file.fileName()),
+                mode.testFlag(QIODevice::WriteOnly) ? Access::ReadWrite : Access::Read,
+                mode.testFlag(QIODevice::NewOnly)            ? Existence::Refused
+                    : mode.testFlag(QIODevice::ExistingOnly) ? Existence::Required
+                                                             : Existence::Allowed);
+            if (handle < 0)
+                return fail(lastErrorString());
+            return file.open(handle, mode, QFileDevice::AutoCloseHandle)
+                || fail(file.errorString());
+        }
+    }
+    return device.open(mode) || fail(device.errorString());
+}
+
 bool Device::reopen(QIODevice::OpenMode mode)
 {
     if (m_device->isOpen())
         m_device->close();
-    return m_device->open(mode) || fail(m_device->errorString());
+    return openClosed(*m_device, mode);
 }
 
 void Device::close()
@@ -216,6 +244,11 @@ void Device::close()
     if (m_foundMode == QIODevice::NotOpen) {
         if (m_device->isOpen())
             m_device->close();
+        // Qt does not find the name of a file again that it was given as a handle.
+        if constexpr (!kReplacesAnyOpenFile) {
+            if (auto *const fileDevice = file())
+                renew(fileDevice);
+        }
     } else if (m_device->isOpen()) {
         m_device->setTextModeEnabled(m_foundMode.testFlag(QIODevice::Text));
         m_device->seek(m_foundPosition);
@@ -260,9 +293,10 @@ bool Device::readInto(QByteArray &bytes, qsizetype from, qint64 at)
     const qint64 size = bytes.size() - from;
     char *const to = bytes.data() + from;
     if (file() != nullptr) {
-        const qint64 filled = readFileParallel(file()->handle(), at, to, size);
+        int failure = 0;
+        const qint64 filled = readFileParallel(file()->handle(), at, to, size, failure);
         bytes.truncate(from + std::max(filled, qint64(0)));
-        return filled >= 0 || fail(lastFileError());
+        return filled >= 0 || fail(qt_error_string(failure));
     }
     qint64 filled = 0;
     while (filled < size) {
@@ -291,7 +325,7 @@ void Device::fillAhead(qint64 at, qint64 size)
 bool Device::sync()
 {
     if (auto *const fileDevice = file())
-        return syncFile(fileDevice->handle()) || fail(lastFileError());
+        return syncFile(fileDevice->handle()) || fail(lastErrorString());
     auto *const durable = dynamic_cast<IVDurableDevice *>(m_device.data());
     return durable == nullptr || durable->sync() || fail(m_device->errorString());
 }
@@ -309,7 +343,8 @@ bool Device::truncate(qint64 size)
 
 bool Device::syncCreation()
 {
-    return file() == nullptr || syncFolderOf(file()->fileName()) || fail(lastFileError());
+    return file() == nullptr || syncFolderOf(nativePath(file()->fileName()))
+        || fail(lastErrorString());
 }
 
 void Device::removeCreated()
@@ -377,18 +412,19 @@ bool Device::swapFile(QFileDevice *fileDevice, const std::vector<ContentPart> &p
     QFile::remove(fresh.fileName());
     const QIODevice::OpenMode mode = m_device->openMode();
     const auto giveUp = [&](const QString &error) {
-        fresh.remove();
+        fresh.close();
+        QFile::remove(fresh.fileName());
         return fail(error);
     };
-    if (!fresh.open(QIODevice::ReadWrite | QIODevice::Unbuffered | QIODevice::NewOnly))
-        return fail(fresh.errorString());
+    if (!openClosed(fresh, QIODevice::ReadWrite | QIODevice::Unbuffered | QIODevice::NewOnly))
+        return false;
     copyPermissions(fileDevice->handle(), fresh.handle());
     if (!copyParts(parts, fresh))
         return giveUp(m_error);
     const qint64 written = fresh.size();
-    if (!syncFile(fresh.handle()) || !replaceFile(fresh.fileName(), path))
-        return giveUp(lastFileError());
-    const bool isSynced = syncFolderOf(path) || fail(lastFileError());
+    if (!syncFile(fresh.handle()) || !replaceFile(nativePath(fresh.fileName()), nativePath(path)))
+        return giveUp(lastErrorString());
+    const bool isSynced = syncFolderOf(nativePath(path)) || fail(lastErrorString());
     unlock();
     closeLater(duplicateHandle(fileDevice->handle()));
     if (!reopen(mode))

@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include "filesystem.h"
-
+#include <platform/filesystem.h>
 #include <vcommon/VDBStatus.h>
 
 #include <QtCore/QByteArray>
@@ -17,6 +16,8 @@
 class QFileDevice;
 
 namespace Norvane::Database {
+
+using Platform::FileIdentity;
 
 /// A stretch of new content: a range of the present content, or bytes that are given.
 struct ContentPart
@@ -81,6 +82,7 @@ public:
 private:
     VDBStatus openFile(QFileDevice *file, Intent intent, std::chrono::milliseconds lockTimeout);
     VDBStatus openPlain(QIODevice *device, Intent intent);
+    bool openClosed(QIODevice &device, QIODevice::OpenMode mode);
     bool reopen(QIODevice::OpenMode mode);
     bool readInto(QByteArray &bytes, qsizetype from, qint64 at);
     bool copyParts(const std::vector<ContentPart> &parts, QIODevice &to);

@@ -1,10 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
-#include "filesystem.h"
-
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
+#include "platform/filesystem.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -14,7 +11,7 @@
 #include <thread>
 #include <unistd.h>
 
-namespace Norvane::Database {
+namespace Norvane::Platform {
 
 namespace {
 
@@ -30,15 +27,18 @@ int retried(Call call)
     return result;
 }
 
-qint64 nanoseconds(const timespec &time)
+std::int64_t nanoseconds(const timespec &time)
 {
-    return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    return std::int64_t(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
 FileIdentity identityOf(const struct stat &data)
 {
-    return {quint64(data.st_dev), quint64(data.st_ino), qint64(data.st_size),
-            nanoseconds(data.st_mtim), nanoseconds(data.st_ctim)};
+    return {.volume = std::uint64_t(data.st_dev),
+            .file = {std::uint64_t(data.st_ino), 0},
+            .size = std::int64_t(data.st_size),
+            .modified = nanoseconds(data.st_mtim),
+            .changed = nanoseconds(data.st_ctim)};
 }
 
 } // namespace
@@ -49,11 +49,10 @@ std::optional<FileIdentity> fileIdentity(int handle)
     return ::fstat(handle, &data) == 0 ? std::optional(identityOf(data)) : std::nullopt;
 }
 
-std::optional<FileIdentity> fileIdentity(const QString &path)
+std::optional<FileIdentity> fileIdentity(const std::filesystem::path &path)
 {
     struct stat data = {};
-    return ::stat(QFile::encodeName(path).constData(), &data) == 0 ? std::optional(identityOf(data))
-                                                                   : std::nullopt;
+    return ::stat(path.c_str(), &data) == 0 ? std::optional(identityOf(data)) : std::nullopt;
 }
 
 bool lockFile(int handle, bool alone, std::chrono::milliseconds timeout)
@@ -75,9 +74,9 @@ void unlockFile(int handle)
     retried([&] { return ::flock(handle, LOCK_UN); });
 }
 
-qint64 readFileAt(int handle, qint64 at, char *to, qint64 size)
+std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size)
 {
-    qint64 filled = 0;
+    std::int64_t filled = 0;
     while (filled < size) {
         const ssize_t got = ::pread(handle, to + filled, std::size_t(size - filled), at + filled);
         if (got < 0 && errno != EINTR)
@@ -101,7 +100,7 @@ void closeHandle(int handle)
 
 bool syncFile(int handle)
 {
-#if defined(Q_OS_LINUX)
+#if defined(__linux__)
     // The size is synced with the data; what fdatasync() leaves out nobody needs for reading.
     return retried([&] { return ::fdatasync(handle); }) == 0;
 #else
@@ -109,11 +108,11 @@ bool syncFile(int handle)
 #endif
 }
 
-bool syncFolderOf(const QString &path)
+bool syncFolderOf(const std::filesystem::path &path)
 {
-    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
     const int handle =
-        retried([&] { return ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
+        retried([&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
     if (handle < 0)
         return false;
     const bool ok = retried([&] { return ::fsync(handle); }) == 0;
@@ -131,14 +130,14 @@ void copyPermissions(int from, int to)
     ::fchmod(to, data.st_mode & 07777);
 }
 
-bool replaceFile(const QString &from, const QString &to)
+bool replaceFile(const std::filesystem::path &from, const std::filesystem::path &to)
 {
-    return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+    return ::rename(from.c_str(), to.c_str()) == 0;
 }
 
-QString lastFileError()
+int lastError()
 {
-    return qt_error_string(errno);
+    return errno;
 }
 
-} // namespace Norvane::Database
+} // namespace Norvane::Platform

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 Norvane
+// SPDX-License-Identifier: MPL-2.0
+
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+
+// Files, as far as the standard library and Qt fall short. A handle is a descriptor of the C
+// library, as QFileDevice::handle() gives it. After a failure lastError() says why.
+
+namespace Norvane::Platform {
+
+/// Tells one state of a file from any other, without reading it.
+struct FileIdentity
+{
+    std::uint64_t volume = 0;
+    std::array<std::uint64_t, 2> file = {};
+    std::int64_t size = 0;
+    std::int64_t modified = 0; ///< When, in the file system's finest unit.
+    std::int64_t changed = 0; ///< Likewise, for the file's own data: permissions, links.
+
+    bool isSameFileAs(const FileIdentity &other) const
+    {
+        return volume == other.volume && file == other.file;
+    }
+    friend bool operator==(const FileIdentity &, const FileIdentity &) = default;
+};
+
+std::optional<FileIdentity> fileIdentity(int handle);
+std::optional<FileIdentity> fileIdentity(const std::filesystem::path &path);
+
+/// Locks the open file against other openings of it, in this process or another: alone, or together
+/// with others who only read. False when `timeout` passed first. The lock ends with the process.
+/// It keeps nobody from reading and writing who does not ask for it.
+[[nodiscard]] bool lockFile(int handle, bool alone, std::chrono::milliseconds timeout);
+void unlockFile(int handle);
+
+/// Reads from a place in the file, on any thread; how much it was, less than `size` only at the end
+/// of the file, or -1. Afterwards the file's position may be another.
+[[nodiscard]] std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size);
+
+/// Another handle of the same open file, or -1.
+[[nodiscard]] int duplicateHandle(int handle);
+void closeHandle(int handle);
+
+/// Makes the file's content survive a power cut.
+[[nodiscard]] bool syncFile(int handle);
+/// Makes the entry of `path` in its folder survive a power cut.
+[[nodiscard]] bool syncFolderOf(const std::filesystem::path &path);
+
+/// Gives the file `to` the owner and permissions of the file `from`, as far as we may.
+void copyPermissions(int from, int to);
+/// Puts the file `from` in the place of the file `to`, in one step. Either may be open, see
+/// kReplacesAnyOpenFile.
+[[nodiscard]] bool replaceFile(const std::filesystem::path &from, const std::filesystem::path &to);
+
+#ifdef _WIN32
+/// Whether replaceFile() works on files however they were opened; otherwise on those that
+/// openReplaceable() has opened.
+inline constexpr bool kReplacesAnyOpenFile = false;
+#else
+inline constexpr bool kReplacesAnyOpenFile = true;
+#endif
+
+enum class Access
+{
+    Read,
+    ReadWrite
+};
+
+enum class Existence
+{
+    Required,
+    Allowed,
+    Refused
+};
+
+/// Opens a file so that replaceFile() works on it meanwhile; -1 when it cannot be. There is such a
+/// function only where it is needed.
+[[nodiscard]] int openReplaceable(const std::filesystem::path &path, Access access,
+                                  Existence existence);
+
+/// The system's number for the last failure in this thread, as qt_error_string() takes it.
+int lastError();
+
+} // namespace Norvane::Platform
