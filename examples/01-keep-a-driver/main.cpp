@@ -4,6 +4,11 @@
 // The shortest host: describe a machine, keep it in a printers database, and read it back.
 //
 //   01-keep-a-driver [FILE]      FILE: where to keep it, "Printers.tdb" unless it is given
+//
+// It prints every driver in the file, by content id; one more at each run:
+//
+//   {0aa6447b-625d-571b-9193-846ab4f46a30}  Line 1
+//     a print unit of 4 channels
 
 #include <kilnjet/VPrintUnitDriver.h>
 #include <kilnjet/VPrinterDriver.h>
@@ -23,7 +28,7 @@ namespace {
 // Builds a driver and keeps it in the database `file`.
 bool keep(const QString &file)
 {
-    // README: begin
+    // [keep]
     VPrinterDriver printer(QUuid::createUuid());
     printer.setName(u"Line 1"_s);
     printer.setPrinterClass(PrinterClass::Inkjet);
@@ -35,7 +40,7 @@ bool keep(const QString &file)
     db.init(false); // Load now, in this thread; true would do it in the background.
     db.insert(printer);
     db.commit(); // At once, instead of 5 s after the last edit.
-    // README: end
+    // [keep]
 
     return !db.isNull() && !db.isDirty();
 }
@@ -43,6 +48,7 @@ bool keep(const QString &file)
 // Reads every driver of the database `file`, as a process that starts tomorrow would.
 bool readBack(const QString &file, QTextStream &out)
 {
+    // [read]
     VPrintersDb db(file, QString());
     db.init(false);
     for (const VPrinterDriver &printer : db.values()) {
@@ -50,9 +56,10 @@ bool readBack(const QString &file, QTextStream &out)
         for (auto *child : printer.values(VPrintUnitDriver().id())) {
             const auto *unit = dynamic_cast<VPrintUnitDriver *>(child);
             if (unit)
-                out << "    a print unit of " << unit->channels().size() << " channels\n";
+                out << "  a print unit of " << unit->channels().size() << " channels\n";
         }
     }
+    // [read]
     return db.count() > 0;
 }
 
