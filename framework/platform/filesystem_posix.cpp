@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -86,6 +87,18 @@ std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size
         filled += std::max<ssize_t>(got, 0);
     }
     return filled;
+}
+
+void expectUse([[maybe_unused]] char *memory, [[maybe_unused]] std::int64_t size)
+{
+#if defined(MADV_HUGEPAGE)
+    // Usual pages are asked for one by one, which costs as much as filling them.
+    const auto page = std::uintptr_t(::sysconf(_SC_PAGESIZE));
+    const std::uintptr_t begin = (std::uintptr_t(memory) + page - 1) / page * page;
+    const std::uintptr_t end = (std::uintptr_t(memory) + std::uintptr_t(size)) / page * page;
+    if (begin < end)
+        ::madvise(reinterpret_cast<void *>(begin), end - begin, MADV_HUGEPAGE);
+#endif
 }
 
 int duplicateHandle(int handle)

@@ -238,6 +238,11 @@ std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size
     return filled;
 }
 
+void expectUse(char *, std::int64_t)
+{
+    // Windows gives large pages to nobody without a privilege.
+}
+
 int duplicateHandle(int handle)
 {
     const HANDLE us = ::GetCurrentProcess();

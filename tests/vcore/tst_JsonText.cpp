@@ -20,6 +20,7 @@ private Q_SLOTS:
     void plainText_readsLikeADocument();
     void whatIsNotPlain_isRefused_data();
     void whatIsNotPlain_isRefused();
+    void everyByteAnywhereInAString_isReadLikeADocumentOrRefused();
     void numbers_readLikeADocument_data();
     void numbers_readLikeADocument();
     void valuesOfAnotherType_giveTheFallback();
@@ -116,6 +117,33 @@ void tst_JsonText::whatIsNotPlain_isRefused()
     VJsonText text;
     QVERIFY(!text.parse(json));
     QVERIFY(text.object().toJsonObject().isEmpty());
+}
+
+/// Strings are skipped in blocks, so what stops at a byte must do so wherever in a block it stands.
+void tst_JsonText::everyByteAnywhereInAString_isReadLikeADocumentOrRefused()
+{
+    const QByteArray start = R"({"a":")";
+    for (int length = 1; length <= 40; ++length) {
+        for (int place = 0; place < length; ++place) {
+            for (int byte = 0; byte < 256; ++byte) {
+                QByteArray content(length, 'x');
+                content[place] = char(byte);
+                const QByteArray json = start + content + R"("})";
+                VJsonText text;
+                const bool isPlain = byte >= 0x20 && byte < 0x80 && byte != '"' && byte != '\\';
+                if (text.parse(json) != isPlain)
+                    QFAIL(qPrintable(u"byte %1 at %2 of %3"_s.arg(byte).arg(place).arg(length)));
+                if (isPlain && text.object().value("a"_L1).toString().toLatin1() != content)
+                    QFAIL(qPrintable(u"byte %1 at %2 of %3"_s.arg(byte).arg(place).arg(length)));
+            }
+        }
+    }
+    for (int place = 0; place <= 40; ++place) {
+        const QByteArray json = start + QByteArray(place, 'x') + "\xc3\xa9" + R"("})";
+        VJsonText text;
+        QVERIFY(text.parse(json));
+        QCOMPARE(text.object().toJsonObject(), QJsonDocument::fromJson(json).object());
+    }
 }
 
 void tst_JsonText::numbers_readLikeADocument_data()

@@ -33,6 +33,9 @@ constexpr std::chrono::seconds kRelockTimeout(10);
 /// Content is read and copied in blocks of this size.
 constexpr qint64 kBlock = 1024 * 1024;
 
+/// From here on memory may come in pages of 2 MB, the usual size of large ones.
+constexpr qint64 kWorthLargePages = 4 * kBlock;
+
 QIODevice::OpenMode modeFor(Device::Intent intent)
 {
     switch (intent) {
@@ -293,6 +296,8 @@ bool Device::readInto(QByteArray &bytes, qsizetype from, qint64 at)
     const qint64 size = bytes.size() - from;
     char *const to = bytes.data() + from;
     if (file() != nullptr) {
+        if (size >= kWorthLargePages)
+            expectUse(to, size);
         int failure = 0;
         const qint64 filled = readFileParallel(file()->handle(), at, to, size, failure);
         bytes.truncate(from + std::max(filled, qint64(0)));

@@ -6,9 +6,16 @@
 
 #include <vcore/VJsonText.h>
 
+#include <QtCore/QtEndian>
+
 #include <array>
+#include <bit>
 #include <cstring>
 #include <limits>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace Norvane {
 
@@ -41,17 +48,39 @@ constexpr auto kPlain = [] {
     return plain;
 }();
 
-/// Whether all of eight bytes are plain; each test sets the high bit of the bytes that it is for.
-bool areAllPlain(quint64 bytes)
+#ifdef __SSE2__
+constexpr qsizetype kBlock = 16;
+
+/// How many of the first kBlock bytes are plain.
+qsizetype plainLength(const char *block)
+{
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i *>(block));
+    // As signed numbers, bytes outside ASCII are below the blank, too.
+    const __m128i isOdd = _mm_cmplt_epi8(bytes, _mm_set1_epi8(' '));
+    const __m128i isSpecial = _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')),
+                                           _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\')));
+    const auto found = unsigned(_mm_movemask_epi8(_mm_or_si128(isOdd, isSpecial)));
+    return std::countr_zero(found | 1U << kBlock);
+}
+#else
+constexpr qsizetype kBlock = 8;
+
+/// How many of the first kBlock bytes are plain.
+qsizetype plainLength(const char *block)
 {
     constexpr quint64 kEach = 0x0101010101010101;
     constexpr quint64 kHighBits = 0x80 * kEach;
+    const auto bytes = qFromLittleEndian<quint64>(block);
     const auto isZero = [](quint64 each) { return (each - kEach) & ~each; };
     const quint64 isControl = (bytes - ' ' * kEach) & ~bytes;
-    return ((bytes | isControl | isZero(bytes ^ '"' * kEach) | isZero(bytes ^ '\\' * kEach))
-            & kHighBits)
-        == 0;
+    // The lowest high bit that is set is that of the first byte which is not plain; carries may set
+    // others above it.
+    const quint64 found =
+        (bytes | isControl | isZero(bytes ^ '"' * kEach) | isZero(bytes ^ '\\' * kEach))
+        & kHighBits;
+    return std::countr_zero(found) / 8;
 }
+#endif
 
 /// The length of the UTF-8 sequence of two to four bytes at `at`; 0 when it is malformed.
 qsizetype sequenceLength(const char *at, const char *end)
@@ -73,6 +102,14 @@ qsizetype sequenceLength(const char *at, const char *end)
         return isWhole && !isShort && !isTooLarge ? 4 : 0;
     }
     return 0;
+}
+
+/// Whether `a` sorts before `b`. Mostly their first bytes tell.
+bool isBefore(QByteArrayView a, QByteArrayView b)
+{
+    if (!a.isEmpty() && !b.isEmpty() && a[0] != b[0])
+        return uchar(a[0]) < uchar(b[0]);
+    return a.compare(b) < 0;
 }
 
 } // namespace
@@ -129,6 +166,11 @@ private:
     {
         m_tokens[token].end = here();
         m_tokens[token].next = quint32(m_tokens.size());
+    }
+    /// Adds a token without others in it, which ends here.
+    void addLeaf(Kind kind, quint32 begin)
+    {
+        m_tokens.append({begin, here(), quint32(m_tokens.size() + 1), kind});
     }
     QByteArrayView bytesOf(const Token &token) const
     {
@@ -211,10 +253,11 @@ bool VJsonText::Parser::readArray(int depth)
 
 void VJsonText::Parser::skipPlain()
 {
-    for (quint64 bytes = 0; m_end - m_at >= qsizetype(sizeof(bytes)); m_at += sizeof(bytes)) {
-        std::memcpy(&bytes, m_at, sizeof(bytes));
-        if (!areAllPlain(bytes))
-            break;
+    while (m_end - m_at >= kBlock) {
+        const qsizetype length = plainLength(m_at);
+        m_at += length;
+        if (length < kBlock)
+            return;
     }
     while (m_at < m_end && kPlain[uchar(*m_at)])
         ++m_at;
@@ -224,9 +267,9 @@ bool VJsonText::Parser::readString(Kind kind)
 {
     ++m_at;
     // QJsonDocument drops a byte order mark at the start of a string.
-    if (QByteArrayView(m_at, m_end).startsWith("\xef\xbb\xbf"))
+    if (peek() == '\xef' && QByteArrayView(m_at, m_end).startsWith("\xef\xbb\xbf"))
         return false;
-    const quint32 string = open(kind);
+    const quint32 begin = here();
     for (;;) {
         skipPlain();
         if (m_at == m_end || uchar(*m_at) < 0x80)
@@ -236,13 +279,13 @@ bool VJsonText::Parser::readString(Kind kind)
             return false;
         m_at += length;
     }
-    close(string);
+    addLeaf(kind, begin);
     return take('"'); // An escape or a control character stands here otherwise.
 }
 
 bool VJsonText::Parser::readNumber()
 {
-    const quint32 number = open(Kind::Number);
+    const quint32 begin = here();
     take('-');
     const char *const first = m_at;
     while (isDigit(peek()))
@@ -261,18 +304,18 @@ bool VJsonText::Parser::readNumber()
     }
     // The zero before the point is no digit that counts.
     const qsizetype digits = (*first == '0' ? 0 : wholeDigits) + fractionDigits;
-    close(number);
+    addLeaf(Kind::Number, begin);
     return digits <= kMaxDigits && peek() != 'e' && peek() != 'E';
 }
 
 bool VJsonText::Parser::readWord(const char *word, Kind kind)
 {
-    const quint32 token = open(kind);
+    const quint32 begin = here();
     const auto length = qsizetype(std::strlen(word));
     if (m_end - m_at < length || std::memcmp(m_at, word, std::size_t(length)) != 0)
         return false;
     m_at += length;
-    close(token);
+    addLeaf(kind, begin);
     return true;
 }
 
@@ -285,7 +328,7 @@ bool VJsonText::Parser::hasKeyTwice(quint32 object) const
     QByteArrayView last;
     for (quint32 key = object + 1; key < end; key = m_tokens[key + 1].next) {
         const QByteArrayView name = bytesOf(m_tokens[key]);
-        isSorted = isSorted && (count == 0 || last.compare(name) < 0);
+        isSorted = isSorted && (count == 0 || isBefore(last, name));
         last = name;
         ++count;
     }

@@ -22,7 +22,9 @@ void parallelFor(std::size_t count, std::size_t grain,
                  const std::function<void(std::size_t, std::size_t)> &work)
 {
     const std::size_t most = count / std::max<std::size_t>(grain, 1);
-    const std::size_t threads = std::min<std::size_t>(std::thread::hardware_concurrency(), most);
+    // The number of cores is read from a file of the system: too dear for what is done here alone.
+    const std::size_t threads =
+        most < 2 ? 1 : std::min<std::size_t>(std::thread::hardware_concurrency(), most);
     if (threads < 2) {
         if (count > 0)
             work(0, count);
