@@ -43,8 +43,8 @@ void unlockFile(int handle);
 /// of the file, or -1. Afterwards the file's position may be another.
 [[nodiscard]] std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size);
 
-/// Says that all of this fresh memory is about to be filled, so that the system may give it in large
-/// pages.
+/// Says that all of this fresh memory is about to be filled, so that the system may give it in
+/// large pages.
 void expectUse(char *memory, std::int64_t size);
 
 /// Another handle of the same open file, or -1.
