@@ -110,6 +110,12 @@ StoreControl::StoreControl(QByteArrayView input)
     cut = quint16(byte(2) | (byte(3) << 8));
 }
 
+QString textOf(QByteArrayView utf8)
+{
+    // Behind another character the mark stays.
+    return QString::fromUtf8(' ' + utf8.toByteArray()).sliced(1);
+}
+
 QByteArray signedAnew(QByteArrayView file, const QString &key, SignCommits commits)
 {
     const QByteArray lineKey = lineKeyOf(key);

@@ -36,6 +36,10 @@ enum class SignCommits
     Yes
 };
 
+/// What a file's bytes say. A byte order mark is a character like others, also in front, where
+/// QString::fromUtf8() drops it.
+QString textOf(QByteArrayView utf8);
+
 /// `file` with every line that has the shape of a signed one signed anew, headers included; with
 /// SignCommits::Yes the commit lines also say what stands before them.
 QByteArray signedAnew(QByteArrayView file, const QString &key, SignCommits commits);

@@ -24,6 +24,7 @@ namespace {
 
 using Fuzz::require;
 using Fuzz::StoreControl;
+using Fuzz::textOf;
 
 struct Record
 {
@@ -133,7 +134,7 @@ struct Edit
 VDBRecord recordFor(const Edit &edit)
 {
     VDBRecord record;
-    record.insert(QString::fromUtf8(edit.keyField), QString::fromUtf8(edit.inserted));
+    record.insert(textOf(edit.keyField), textOf(edit.inserted));
     record.insert(u"fuzzed text"_s, edit.text);
     return record;
 }
@@ -150,10 +151,10 @@ VDBStatus commit(QByteArray &bytes, const QString &key, const Edit &edit)
         return store.status();
     }
     require(store.insert(recordFor(edit)), "an open store takes a record");
-    require(store.contains(QString::fromUtf8(edit.inserted)), "what is inserted is there");
+    require(store.contains(textOf(edit.inserted)), "what is inserted is there");
     if (!edit.removed.isEmpty()) {
-        require(store.remove(QString::fromUtf8(edit.removed)), "a sound record can be removed");
-        require(!store.contains(QString::fromUtf8(edit.removed)), "what is removed is gone");
+        require(store.remove(textOf(edit.removed)), "a sound record can be removed");
+        require(!store.contains(textOf(edit.removed)), "what is removed is gone");
     }
     require(bytes == before, "nothing is written before the end of the batch");
     store.close();
@@ -170,9 +171,8 @@ std::optional<Records> expected(const QByteArray &bytes, const Records &records,
         const auto key = Fuzz::recordKeyAt(bytes, record.offset, edit.keyField);
         if (!key)
             return std::nullopt;
-        const QString id = QString::fromUtf8(*key);
-        if (id != QString::fromUtf8(edit.inserted)
-            && (edit.removed.isEmpty() || id != QString::fromUtf8(edit.removed)))
+        const QString id = textOf(*key);
+        if (id != textOf(edit.inserted) && (edit.removed.isEmpty() || id != textOf(edit.removed)))
             left.append(record);
     }
     return left;
@@ -184,7 +184,7 @@ bool isWithEdit(const Records &seen, const Records &old, const Edit &edit)
     if (seen.isEmpty() || !seen.last().isSound || seen.sliced(0, seen.size() - 1) != old)
         return false;
     const auto &fields = seen.last().fields;
-    return fields.contains({QString::fromUtf8(edit.keyField), QString::fromUtf8(edit.inserted)})
+    return fields.contains({textOf(edit.keyField), textOf(edit.inserted)})
         && fields.contains({u"fuzzed text"_s, edit.text});
 }
 
