@@ -10,6 +10,7 @@
 //   {0aa6447b-625d-571b-9193-846ab4f46a30}  Line 1
 //     a print unit of 4 channels
 
+// [head]
 #include <kilnjet/VPrintUnitDriver.h>
 #include <kilnjet/VPrinterDriver.h>
 #include <kilnjet/VPrintersDb.h>
@@ -22,6 +23,7 @@
 using namespace Norvane;
 using namespace Norvane::Kilnjet;
 using namespace Qt::StringLiterals;
+// [head]
 
 namespace {
 

@@ -53,12 +53,14 @@ VPrinterDriver describe()
     return printer;
 }
 
+// [name]
 // The stored name of a value. What users should read instead is the matter of example 07.
 template<typename Value>
 QString nameOf(Value value)
 {
     return VConvert::toString(QVariant::fromValue(value), QLocale::c());
 }
+// [name]
 
 void print(const VPrinterDriver &printer, QTextStream &out)
 {
