@@ -97,12 +97,13 @@ std::optional<QByteArray> outputOf(const QString &program, const QStringList &ar
 
 QJsonObject measureStartup(const QString &programs)
 {
-    const QString empty = programs + u"/bench_start_core"_s;
-    const QString linked = programs + u"/bench_start_library"_s;
-    QJsonObject startup{{"coreMs"_L1, medianStart(empty)}, {"libraryMs"_L1, medianStart(linked)}};
-    if (!QStandardPaths::findExecutable(u"valgrind"_s).isEmpty()) {
-        startup.insert("coreMillionInstructions"_L1, instructionsOf(empty));
-        startup.insert("libraryMillionInstructions"_L1, instructionsOf(linked));
+    const bool hasValgrind = !QStandardPaths::findExecutable(u"valgrind"_s).isEmpty();
+    QJsonObject startup;
+    for (const QString &name : {u"core"_s, u"gui"_s, u"library"_s}) {
+        const QString program = programs + u"/bench_start_"_s + name;
+        startup.insert(name + u"Ms"_s, medianStart(program));
+        if (hasValgrind)
+            startup.insert(name + u"MillionInstructions"_s, instructionsOf(program));
     }
     return startup;
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
-// The least that a host does anyway: the other program of this folder is measured against it.
+// The least that a host does anyway: the other programs of this folder are measured against it.
 
 #include <QtCore/QCoreApplication>
 

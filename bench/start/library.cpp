@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
-// As the other program of this folder, with our library loaded.
+// As the other programs of this folder, with our library loaded.
 
 #include <kilnjet/VPrintersDb.h>
 
