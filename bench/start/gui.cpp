@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
-// With the libraries of Qt that ours needs, and without ours: the rest of the difference is our own.
+// With the libraries of Qt that ours needs, and without ours: what is left then is our own.
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QIcon>
