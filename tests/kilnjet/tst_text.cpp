@@ -132,6 +132,8 @@ void tst_text::nearestName_isWhatWasMeant_data()
     QTest::newRow("another case") << u"INKJET"_s << u"Inkjet"_s;
     QTest::newRow("a slip") << u"Dyrjet"_s << u"Dryjet"_s;
     QTest::newRow("the nearer of two") << u"Drijet"_s << u"Dryjet"_s;
+    QTest::newRow("its beginning") << u"plot"_s << u"Plotter"_s;
+    QTest::newRow("too little of it") << u"pl"_s << QString();
     QTest::newRow("too far") << u"Teapot"_s << QString();
     QTest::newRow("empty") << QString() << QString();
     QTest::newRow("very long") << QString(100'000, u'I') << QString();

@@ -74,7 +74,7 @@ std::optional<VResolution> resolutionOption(const Invocation &invocation, QLatin
         return {};
     static const QRegularExpression form(
         u"\\A\\s*([0-9]+(?:\\.[0-9]+)?)"
-        "(?:\\s*[xX\u00d7]\\s*([0-9]+(?:\\.[0-9]+)?))?\\s*([A-Za-z]*)\\s*\\z"_s);
+        "(?:\\s*[xX\u00d7]\\s*([0-9]+(?:\\.[0-9]+)?))?\\s*((?![xX])[A-Za-z]*)\\s*\\z"_s);
     const QString text = invocation.value(option);
     const auto match = form.match(text);
     if (!match.hasMatch()) {

@@ -17,6 +17,8 @@ namespace {
 
 /// Longer texts are no slip of a finger, and the comparison costs the product of the lengths.
 constexpr qsizetype kLongestWord = 64;
+/// What is shorter is the beginning of too much.
+constexpr qsizetype kShortestBeginning = 3;
 
 } // namespace
 
@@ -57,7 +59,13 @@ QString nearestName(const QString &text, const QStringList &names)
             nearest = name;
         }
     }
-    return nearest;
+    if (!nearest.isEmpty() || text.size() < kShortestBeginning)
+        return nearest;
+    // Or it was not written to its end.
+    const auto longer = std::find_if(names.begin(), names.end(), [&text](const QString &name) {
+        return name.startsWith(text, Qt::CaseInsensitive);
+    });
+    return longer == names.end() ? QString() : *longer;
 }
 
 QString suggestion(const QString &text, const QStringList &names)

@@ -4,7 +4,10 @@
 #include "Paths.h"
 
 #include "Failure.h"
+#include "Nearest.h"
+#include "Text.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
@@ -29,6 +32,14 @@ bool isSameFile(const QString &a, const QString &b)
     std::error_code error;
     return std::filesystem::equivalent(QFile(a).filesystemFileName(), QFile(b).filesystemFileName(),
                                        error);
+}
+
+QString nearbyFile(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString folder = path.first(path.size() - file.fileName().size());
+    const QString name = nearestName(file.fileName(), file.dir().entryList(QDir::Files));
+    return name.isEmpty() ? QString() : u"did you mean %1?"_s.arg(quoted(folder + name));
 }
 
 void refuseDatabase(const QString &path, const QString &database)

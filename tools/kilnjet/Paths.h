@@ -14,6 +14,9 @@ QString fileMeantBy(const QString &operand, const QString &database);
 /// True when both paths lead to one file, through whatever links.
 bool isSameFile(const QString &a, const QString &b);
 
+/// A hint when a file of nearly that name is there: "did you mean 'Printers.tdb'?"; else empty.
+QString nearbyFile(const QString &path);
+
 /// Throws a Failure when the path leads to the database itself.
 void refuseDatabase(const QString &path, const QString &database);
 

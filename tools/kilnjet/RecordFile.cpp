@@ -4,6 +4,7 @@
 #include "RecordFile.h"
 
 #include "Failure.h"
+#include "Paths.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -55,6 +56,13 @@ bool RecordFile::isStandardInput(const QString &name)
 
 QByteArray RecordFile::readAll(const QString &name)
 {
+    if (!isStandardInput(name) && QFileInfo(name).isDir()) {
+        throw Failure{.code = ExitCode::Io,
+                      .where = name,
+                      .what = u"cannot read the file"_s,
+                      .why = u"it is a folder"_s,
+                      .hint = u"name a file in it"_s};
+    }
     QFile file(name);
     const bool opened = isStandardInput(name) ? file.open(stdin, QIODevice::ReadOnly)
                                               : file.open(QIODevice::ReadOnly);
@@ -64,7 +72,8 @@ QByteArray RecordFile::readAll(const QString &name)
         throw Failure{.code = ExitCode::Io,
                       .where = name,
                       .what = u"cannot read the file"_s,
-                      .why = missing ? u"there is no such file"_s : file.errorString()};
+                      .why = missing ? u"there is no such file"_s : file.errorString(),
+                      .hint = missing ? nearbyFile(name) : QString()};
     }
     return text;
 }

@@ -7,6 +7,7 @@
 #include "Invocation.h"
 #include "MachineSource.h"
 #include "Paint.h"
+#include "Paths.h"
 #include "RecordDiff.h"
 #include "Selection.h"
 #include "Text.h"
@@ -158,13 +159,18 @@ ExitCode diffMachines(const QStringList &names, const StoreSettings &settings, C
 void refuseMixture(const QStringList &names, const Invocation &invocation)
 {
     const bool isFirst = isSource(names.first());
-    if (isFirst == isSource(names.last()) && (isFirst || invocation.has("--db"_L1)))
+    const bool isMixed = isFirst != isSource(names.last());
+    if (!isMixed && (isFirst || invocation.has("--db"_L1)))
         return;
+    const QString missing = isFirst ? names.last() : names.first();
+    const QString near = isMixed ? nearbyFile(missing) : QString();
     throw Failure{.code = ExitCode::Io,
-                  .where = isFirst ? names.last() : names.first(),
+                  .where = missing,
                   .what = u"cannot read the file"_s,
                   .why = u"there is no such file"_s,
-                  .hint = u"name the database with --db to compare two of its machines"_s};
+                  .hint = near.isEmpty()
+                      ? u"name the database with --db to compare two of its machines"_s
+                      : near};
 }
 
 } // namespace

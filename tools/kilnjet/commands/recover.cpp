@@ -7,6 +7,7 @@
 #include "DamageText.h"
 #include "Invocation.h"
 #include "NewFile.h"
+#include "Paths.h"
 #include "Progress.h"
 #include "Text.h"
 
@@ -65,7 +66,9 @@ Failure readFailure(const VDBSalvage &salvage, VDBStatus status, const QString &
     Failure failure = storeFailure(
         {.status = status, .error = salvage.errorString(), .isKeyed = salvage.isKeyed()}, path);
     failure.what = u"cannot recover anything"_s;
-    if (status == VDBStatus::NotFound || status == VDBStatus::Empty) {
+    if (status == VDBStatus::NotFound) {
+        failure.hint = nearbyFile(path);
+    } else if (status == VDBStatus::Empty) {
         failure.hint.clear();
     } else if (status == VDBStatus::NotADatabase || status == VDBStatus::DamagedHeader) {
         failure.why = u"nothing in it is a record of a database"_s;

@@ -42,8 +42,10 @@ Failure backupFailure(const StoreSurvey &survey, const QString &path)
 {
     Failure failure = storeFailure(survey, path);
     failure.what = u"cannot read the backup"_s;
+    const QString near = nearbyFile(path);
     if (survey.status == VDBStatus::NotFound)
-        failure.hint = u"name the backup's file, or the folder that holds it"_s;
+        failure.hint =
+            near.isEmpty() ? u"name the backup's file, or the folder that holds it"_s : near;
     else if (survey.status == VDBStatus::Empty)
         failure.hint = u"it is no backup; nothing was changed"_s;
     else if (survey.status == VDBStatus::WrongKey)
