@@ -62,6 +62,19 @@ QList<VPrinterDriver> byName(const QList<VPrinterDriver> &machines)
     return sorted;
 }
 
+void warnOfLosses(const StoreSurvey &survey, qsizetype leftOut, const QString &path,
+                  Console &console)
+{
+    const QString hint = u"'kilnjet verify %1' tells more"_s.arg(path);
+    if (leftOut > 0) {
+        console.warn(path,
+                     u"%1 left out, because it cannot be read"_s.arg(counted(leftOut, u"record"_s)),
+                     hint);
+    } else if (isDamaged(survey)) {
+        console.warn(path, u"parts of the file are damaged"_s, hint);
+    }
+}
+
 Catalogue::Catalogue(const StoreSettings &settings, Mode mode, Console &console)
     : m_console(console)
     , m_settings(settings)
@@ -99,14 +112,7 @@ void Catalogue::load()
         throw storeFailure(again, m_settings.path);
     }
     m_leftOut = m_survey.count - m_database->count();
-    const QString hint = u"'kilnjet verify %1' tells more"_s.arg(m_settings.path);
-    if (m_leftOut > 0) {
-        m_console.warn(
-            m_settings.path,
-            u"%1 left out, because it cannot be read"_s.arg(counted(m_leftOut, u"record"_s)), hint);
-    } else if (isDamaged(m_survey)) {
-        m_console.warn(m_settings.path, u"parts of the file are damaged"_s, hint);
-    }
+    warnOfLosses(m_survey, m_leftOut, m_settings.path, m_console);
 }
 
 QList<VPrinterDriver> Catalogue::machines()

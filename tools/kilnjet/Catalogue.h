@@ -18,6 +18,10 @@ class Console;
 /// The machines, ordered by name without regard to case; those of one name stay in order.
 QList<VPrinterDriver> byName(const QList<VPrinterDriver> &machines);
 
+/// Warns of records that the file holds and no program gets to see, and of damage.
+void warnOfLosses(const StoreSurvey &survey, qsizetype leftOut, const QString &path,
+                  Console &console);
+
 /// The printers database that a command works on.
 ///
 /// It is surveyed before it is opened, so that the cause of a failure can be named. Opened to read

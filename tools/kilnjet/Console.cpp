@@ -25,11 +25,25 @@ constexpr qsizetype kFlushSize = 64 * 1024;
 /// would obey them.
 QByteArray safeJson(const QJsonDocument &document, QJsonDocument::JsonFormat format)
 {
-    QByteArray text = document.toJson(format);
-    text.replace('\x7f', "\\u007f");
-    for (int code = 0x80; code <= 0x9f; ++code)
-        text.replace(QByteArray("\xc2") + char(code), "\\u00" + QByteArray::number(code, 16));
-    return text;
+    const QByteArray text = document.toJson(format);
+    QByteArray safe;
+    safe.reserve(text.size());
+    qsizetype done = 0;
+    const auto escape = [&](qsizetype at, qsizetype size, uint code) {
+        safe += QByteArrayView(text).sliced(done, at - done);
+        safe += "\\u00" + QByteArray::number(code, 16);
+        done = at + size;
+    };
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const uchar byte = uchar(text.at(at));
+        // In UTF-8 the codes from 0x80 to 0xBF are the byte C2 and one that equals the code.
+        const uchar next = at + 1 < text.size() ? uchar(text.at(at + 1)) : uchar(0);
+        if (byte == 0x7f)
+            escape(at, 1, byte);
+        else if (byte == 0xc2 && next >= 0x80 && next <= 0x9f)
+            escape(at, 2, next);
+    }
+    return safe += QByteArrayView(text).sliced(done);
 }
 
 QString messageText(const Failure &failure)

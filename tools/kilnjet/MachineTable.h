@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <kilnjet/VPrinterDriver.h>
+#include "MachineSummary.h"
 
 #include <QtCore/QList>
 
@@ -14,7 +14,10 @@ class DisplayTexts;
 
 /// Writes one line a machine under headings, with values as `texts` show them, or an array with a
 /// summary of each.
-void writeMachines(const QList<VPrinterDriver> &machines, const DisplayTexts &texts,
+void writeMachines(const QList<MachineSummary> &machines, const DisplayTexts &texts,
                    Console &console);
+
+/// Writes the names, each once: one a line, or an array.
+void writeNames(const QList<MachineSummary> &machines, Console &console);
 
 } // namespace Norvane::Kilnjet::Tool

@@ -4,6 +4,7 @@
 #include "Store.h"
 
 #include "Invocation.h"
+#include "Paths.h"
 #include "Progress.h"
 #include "RecordFile.h"
 #include "RecordSchema.h"
@@ -20,6 +21,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -180,7 +182,9 @@ Failure storeFailure(const StoreSurvey &survey, const QString &path)
     switch (survey.status) {
     case VDBStatus::NotFound:
         failure.why = u"there is no such file"_s;
-        failure.hint = u"'kilnjet import' creates it"_s;
+        failure.hint = nearbyFile(path);
+        if (failure.hint.isEmpty())
+            failure.hint = u"'kilnjet import' creates it"_s;
         break;
     case VDBStatus::Empty:
         failure.why = u"the file is empty"_s;
@@ -241,6 +245,36 @@ StoreSurvey visitStore(const StoreSettings &settings, Progress &progress,
     }
     store.close();
     return survey;
+}
+
+StoreSurvey readStore(const StoreSettings &settings, QList<VDBRecord> &records)
+{
+    QFile file(settings.path);
+    VDBText store;
+    const StoreSurvey survey = openStore(store, file, settings, Access::Read);
+    if (survey.status != VDBStatus::Ok)
+        throw storeFailure(survey, settings.path);
+    records = store.values();
+    store.close();
+    return survey;
+}
+
+SoundRecord soundRecord(const VDBRecord &record)
+{
+    if (!record.checkSignature())
+        return {};
+    const std::optional<VBytes> id = record.utf8(u"id"_s);
+    const std::optional<VBytes> json = record.utf8(u"driver"_s);
+    if (!id || !json)
+        return {};
+    std::unique_ptr<Hardware::Interfaces::IVDeviceConfig> config(
+        Hardware::VDeviceConfig::fromJson(*json));
+    auto *driver = dynamic_cast<VPrinterDriver *>(config.get());
+    const QUuid key = QUuid::fromString(QUtf8StringView(id->view()));
+    if (driver == nullptr || key.isNull() || driver->dataId() != key)
+        return {};
+    std::ignore = config.release();
+    return {.driver = std::unique_ptr<VPrinterDriver>(driver), .json = *json};
 }
 
 Compaction compactStore(const StoreSettings &settings)

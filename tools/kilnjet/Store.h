@@ -14,6 +14,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace Norvane::Kilnjet::Tool {
@@ -84,6 +85,19 @@ struct StoredRecord
         {}; ///< What a program sees of it: nothing when left out.
     QString reason = {}; ///< Why it is left out.
 };
+
+/// Reads all live records of the file, in file order. Throws a Failure when it cannot be opened.
+StoreSurvey readStore(const StoreSettings &settings, QList<Database::VDBRecord> &records);
+
+/// A record as a program sees it that opens the database, without the time to say more of it.
+struct SoundRecord
+{
+    std::unique_ptr<VPrinterDriver> driver = {}; ///< Null when the record is left out.
+    VBytes json = {}; ///< The driver's.
+};
+
+/// Judges a record as judged() does. Any thread.
+SoundRecord soundRecord(const Database::VDBRecord &record);
 
 /// Judges a record by the rules by which VPrintersDb takes records in.
 StoredRecord judged(const Database::VDBRecord &record);

@@ -49,6 +49,12 @@ bool isUnsafe(char32_t code)
     }
 }
 
+/// Visible ASCII and blanks: one column each, nothing to escape. Most text is no more than that.
+bool isPlain(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u' ' && c <= u'~'; });
+}
+
 QString padding(int columns)
 {
     return QString(std::max(columns, 0), u' ');
@@ -58,6 +64,8 @@ QString padding(int columns)
 
 QString printable(const QString &text)
 {
+    if (isPlain(text))
+        return text;
     QString result;
     result.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -77,6 +85,8 @@ QString printable(const QString &text)
 
 int displayWidth(const QString &text)
 {
+    if (isPlain(text))
+        return int(text.size());
     int width = 0;
     for (const uint code : text.toUcs4()) {
         switch (QChar::category(code)) {

@@ -8,8 +8,6 @@
 #include "MachineFilter.h"
 #include "MachineTable.h"
 
-#include <algorithm>
-
 namespace Norvane::Kilnjet::Tool {
 
 ExitCode runQuery(const Invocation &invocation, Console &console)
@@ -17,9 +15,11 @@ ExitCode runQuery(const Invocation &invocation, Console &console)
     const MachineFilter filter = MachineFilter::from(invocation);
     Catalogue catalogue(StoreSettings::from(invocation), Catalogue::Mode::Read, console);
     const QList<VPrinterDriver> all = catalogue.machines();
-    QList<VPrinterDriver> found;
-    std::copy_if(all.begin(), all.end(), std::back_inserter(found),
-                 [&filter](const VPrinterDriver &machine) { return filter.matches(machine); });
+    QList<MachineSummary> found;
+    for (const VPrinterDriver &machine : all) {
+        if (filter.matches(machine))
+            found.append(MachineSummary::of(machine));
+    }
     writeMachines(found, DisplayTexts::from(invocation), console);
     return found.isEmpty() ? ExitCode::Finding : ExitCode::Done;
 }
