@@ -5,11 +5,14 @@
 
 #include "Text.h"
 
+#include <vcore/VParallel.h>
+
 #include <QtCore/QJsonObject>
 #include <QtCore/QSet>
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -17,16 +20,35 @@ namespace Norvane::Kilnjet::Tool {
 
 ChangePlan ChangePlan::of(const QList<VPrinterDriver> &machines, VPrintersDb &database)
 {
+    // Comparing means to write both records as JSON, which all cores can share.
+    constexpr std::size_t kWorthAThread = 16;
+    enum class Change
+    {
+        Added,
+        Replaced,
+        Unchanged
+    };
+    std::vector<Change> changes(std::size_t(machines.size()));
+    parallelFor(changes.size(), kWorthAThread, [&](std::size_t begin, std::size_t end) {
+        for (std::size_t i = begin; i < end; ++i) {
+            const VPrinterDriver &machine = machines.at(qsizetype(i));
+            if (!database.contains(machine.dataId()))
+                changes[i] = Change::Added;
+            else
+                changes[i] = database.value(machine).toJson() == machine.toJson()
+                    ? Change::Unchanged
+                    : Change::Replaced;
+        }
+    });
     ChangePlan plan;
     QSet<QUuid> ids;
-    for (const VPrinterDriver &machine : machines) {
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        const VPrinterDriver &machine = machines.at(qsizetype(i));
         ids.insert(machine.dataId());
-        if (!database.contains(machine.dataId()))
-            plan.added.append(machine);
-        else if (database.value(machine).toJsonObject() == machine.toJsonObject())
-            plan.unchanged.append(machine);
-        else
-            plan.replaced.append(machine);
+        QList<VPrinterDriver> &list = changes[i] == Change::Added ? plan.added
+            : changes[i] == Change::Replaced                      ? plan.replaced
+                                                                  : plan.unchanged;
+        list.append(machine);
     }
     for (const VPrinterDriver &machine : database.values()) {
         if (!ids.contains(machine.dataId()))

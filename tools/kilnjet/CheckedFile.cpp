@@ -3,11 +3,22 @@
 
 #include "CheckedFile.h"
 
+#include <vcore/VParallel.h>
+
 #include <QtCore/QHash>
+
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace Norvane::Kilnjet::Tool {
+
+namespace {
+
+/// How many records make a thread of their own worth while.
+constexpr std::size_t kWorthAThread = 16;
+
+} // namespace
 
 CheckedFile checkFile(const QString &name, const QByteArray &text)
 {
@@ -15,12 +26,17 @@ CheckedFile checkFile(const QString &name, const QByteArray &text)
     file.findings = file.source.findings();
     QList<RecordFinding> found;
     const QList<RecordInput> &records = file.source.records();
+    std::vector<CheckedRecord> checked(std::size_t(records.size()));
+    parallelFor(checked.size(), kWorthAThread, [&](std::size_t begin, std::size_t end) {
+        for (std::size_t i = begin; i < end; ++i)
+            checked[i] = checkRecord(records.at(qsizetype(i)).value);
+    });
     for (qsizetype i = 0; i < records.size(); ++i) {
-        const CheckedRecord checked = checkRecord(records.at(i).value);
-        for (const Finding &finding : checked.findings)
+        const CheckedRecord &record = checked[std::size_t(i)];
+        for (const Finding &finding : record.findings)
             found.append({i, finding});
-        if (checked.driver)
-            file.accepted.append({*checked.driver, i});
+        if (record.driver)
+            file.accepted.append({*record.driver, i});
     }
     file.findings += file.source.located(found);
     return file;

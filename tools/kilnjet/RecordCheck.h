@@ -26,7 +26,7 @@ struct CheckedRecord
 /// Checks that `record` is a printer driver which can be stored exactly as it is written.
 ///
 /// Reading a record never fails: whatever is missing, misspelt or ill-typed takes a default. So it
-/// is compared with what the records of each kind must look like before it is read.
+/// is compared with what the records of each kind must look like before it is read. Any thread.
 CheckedRecord checkRecord(const QJsonValue &record);
 
 } // namespace Norvane::Kilnjet::Tool
