@@ -29,7 +29,14 @@ if(private)
     message(SEND_ERROR "installed, though private: ${private}")
 endif()
 
-# The tool finds the libraries beside it.
+# The tool finds the libraries beside it, and shells and man what belongs to it.
 if(HAS_TOOL)
     run("${PREFIX}/${BINDIR}/kilnjet" --help)
+    foreach(file IN ITEMS man/man1/kilnjet.1 man/man1/kilnjet-import.1 man/man5/kilnjet-format.5
+            bash-completion/completions/kilnjet zsh/site-functions/_kilnjet
+            fish/vendor_completions.d/kilnjet.fish)
+        if(NOT EXISTS "${PREFIX}/share/${file}")
+            message(SEND_ERROR "share/${file} was not installed")
+        endif()
+    endforeach()
 endif()

@@ -13,6 +13,26 @@ namespace Norvane::Kilnjet::Tool {
 class Console;
 struct Invocation;
 
+/// Which words may stand somewhere on the command line: what a shell can offer there.
+struct Words
+{
+    enum class Kind
+    {
+        Free, ///< Any; there is nothing to offer.
+        Files,
+        Machines, ///< Names of machines of the database.
+        FilesOrMachines,
+        Enumeration, ///< The names of the values of the enumeration `names`.
+        Enumerations, ///< The names of the enumerations themselves.
+        Languages,
+        Commands,
+        Listed ///< The words in `names`, which stand between bars: "yes|no".
+    };
+
+    Kind kind = Kind::Free;
+    QLatin1StringView names = {};
+};
+
 /// One option, of the tool or of a command.
 struct Option
 {
@@ -26,6 +46,7 @@ struct Option
     QLatin1StringView letter; ///< The short form: "-o"; may be empty.
     QLatin1StringView value; ///< What its value is called in help: "FILE"; empty without a value.
     QLatin1StringView summary;
+    Words words = {}; ///< What the value may be.
     Times times = Times::Once; ///< How often it may be given with a value.
 };
 
@@ -36,6 +57,7 @@ struct Operand
     int least = 1; ///< How many there must be.
     int most = 1; ///< How many there may be; kAnyNumber without a bound.
     QLatin1StringView summary;
+    Words words = {};
 
     static constexpr int kAnyNumber = 0x7fffffff;
 };

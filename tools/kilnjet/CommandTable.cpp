@@ -11,10 +11,25 @@ namespace Norvane::Kilnjet::Tool {
 
 namespace {
 
+constexpr Words kAFile{Words::Kind::Files};
+constexpr Words kAMachine{Words::Kind::Machines};
+constexpr Words kASource{Words::Kind::FilesOrMachines};
+constexpr Words kAnEnumeration{Words::Kind::Enumerations};
+constexpr Words kACommand{Words::Kind::Commands};
+constexpr Words kALanguage{Words::Kind::Languages};
+constexpr Words kYesOrNo{Words::Kind::Listed, "yes|no"_L1};
+
+constexpr Words valueOf(QLatin1StringView enumeration)
+{
+    return {Words::Kind::Enumeration, enumeration};
+}
+
 constexpr Operand kMachines{"ID|NAME"_L1, 1, Operand::kAnyNumber,
-                            "the machines, by content id, the first digits of one, or name"_L1};
+                            "the machines, by content id, the first digits of one, or name"_L1,
+                            kAMachine};
 constexpr Operand kMachine{"ID|NAME"_L1, 1, 1,
-                           "the machine, by content id, the first digits of one, or name"_L1};
+                           "the machine, by content id, the first digits of one, or name"_L1,
+                           kAMachine};
 constexpr ExitMeaning kNotFound{ExitCode::Finding,
                                 "a machine was not found, or a name fits several machines"_L1};
 
@@ -37,7 +52,7 @@ Command importCommand()
             "id, "
             "faces mode, printer class and maximum faces; equal ones are left alone."_L1,
         .operands = {{"FILE"_L1, 1, Operand::kAnyNumber,
-                      "the files to read; \"-\" is the standard input"_L1}},
+                      "the files to read; \"-\" is the standard input"_L1, kAFile}},
         .options = {{"--dry-run"_L1, ""_L1, ""_L1, "check and report, store nothing"_L1}},
         .exitCodes = {{ExitCode::Finding, "a record was refused; nothing was stored"_L1}},
         .examples = {{"import machines.json"_L1, "store every machine of a file"_L1},
@@ -55,7 +70,7 @@ Command listCommand()
         .summary = "List the machines of the database"_L1,
         .description = "One line a machine, ordered by name."_L1,
         .operands = {},
-        .options = {},
+        .options = {{"--names"_L1, ""_L1, ""_L1, "the names and no more, each once"_L1}},
         .exitCodes = {},
         .examples = {{"list"_L1, "the machines of Printers.tdb"_L1},
                      {"--db plant.tdb list --json"_L1, "the same as JSON, of another file"_L1}},
@@ -77,22 +92,26 @@ Command queryCommand()
             "when left out, and units are not converted. Every word of --text must occur in the "
             "names and descriptions of the machine and its children, in any case."_L1,
         .operands = {},
-        .options = {{"--class"_L1, ""_L1, "NAME"_L1, "is of this printer class"_L1},
-                    {"--channel"_L1, ""_L1, "NAME"_L1,
-                     "has this channel; may be given several times"_L1, Option::Times::Many},
-                    {"--elaboration"_L1, ""_L1, "TYPE"_L1, "has an elaboration of this type"_L1},
-                    {"--levels"_L1, ""_L1, "NAME"_L1, "... with this level management"_L1},
-                    {"--resolution"_L1, ""_L1, "RESOLUTION"_L1, "... at this resolution"_L1},
-                    {"--online-elaboration"_L1, ""_L1, "yes|no"_L1, "elaborates online"_L1},
-                    {"--online-linearization"_L1, ""_L1, "yes|no"_L1, "linearises online"_L1},
-                    {"--experimental"_L1, ""_L1, "yes|no"_L1, "is experimental"_L1},
-                    {"--text"_L1, ""_L1, "WORDS"_L1, "is described with these words"_L1}},
+        .options =
+            {{"--class"_L1, ""_L1, "NAME"_L1, "is of this printer class"_L1,
+              valueOf("PrinterClass"_L1)},
+             {"--channel"_L1, ""_L1, "NAME"_L1, "has this channel; may be given several times"_L1,
+              valueOf("Channel"_L1), Option::Times::Many},
+             {"--elaboration"_L1, ""_L1, "TYPE"_L1, "has an elaboration of this type"_L1,
+              valueOf("ElaborationType"_L1)},
+             {"--levels"_L1, ""_L1, "NAME"_L1, "... with this level management"_L1,
+              valueOf("LevelManagement"_L1)},
+             {"--resolution"_L1, ""_L1, "RESOLUTION"_L1, "... at this resolution"_L1},
+             {"--online-elaboration"_L1, ""_L1, "yes|no"_L1, "elaborates online"_L1, kYesOrNo},
+             {"--online-linearization"_L1, ""_L1, "yes|no"_L1, "linearises online"_L1, kYesOrNo},
+             {"--experimental"_L1, ""_L1, "yes|no"_L1, "is experimental"_L1, kYesOrNo},
+             {"--text"_L1, ""_L1, "WORDS"_L1, "is described with these words"_L1}},
         .exitCodes = {{ExitCode::Done, "machines were found"_L1},
                       {ExitCode::Finding, "no machine meets the conditions"_L1}},
-        .examples = {{"query --channel Cyan --channel Sinker"_L1,
-                      "the machines that lay cyan and a sinking material"_L1},
-                     {"query --class Inkjet --levels Binary --resolution 400x800 --json"_L1,
-                      "the inkjets with a binary elaboration at 400 x 800 DPI, as JSON"_L1}},
+        .examples = {{"query --channel Blue --channel Sinker"_L1,
+                      "the machines that lay blue and a sinking material"_L1},
+                     {"query --class Inkjet --levels Binary --resolution 360 --json"_L1,
+                      "the inkjets with a binary elaboration at 360 DPI, as JSON"_L1}},
         .run = runQuery,
     };
 }
@@ -113,7 +132,7 @@ Command showCommand()
         .options = {},
         .exitCodes = {kNotFound},
         .examples = {{"show \"Kiln line 4\""_L1, "by name"_L1},
-                     {"show 3f2a --json"_L1, "by the first digits of its id, as JSON"_L1}},
+                     {"show c3dc --json"_L1, "by the first digits of its id, as JSON"_L1}},
         .run = runShow,
     };
 }
@@ -139,8 +158,8 @@ Command diffCommand()
             "there are any.\n"
             "The key of --key-file is used for both files. Colours are for terminals only; set "
             "NO_COLOR to do without."_L1,
-        .operands = {{"A"_L1, 1, 1, "a database, a file in JSON, or a machine"_L1},
-                     {"B"_L1, 1, 1, "what A is compared with"_L1}},
+        .operands = {{"A"_L1, 1, 1, "a database, a file in JSON, or a machine"_L1, kASource},
+                     {"B"_L1, 1, 1, "what A is compared with"_L1, kASource}},
         .options = {},
         .exitCodes = {{ExitCode::Done, "they are equal"_L1},
                       {ExitCode::Finding, "they differ, or a machine was not found"_L1},
@@ -165,9 +184,10 @@ Command exportCommand()
             "A file given with --output is written beside its place, synced and then moved there: "
             "it "
             "is complete or untouched."_L1,
-        .operands = {{"ID|NAME"_L1, 0, Operand::kAnyNumber, "the machines; all when left out"_L1}},
+        .operands = {{"ID|NAME"_L1, 0, Operand::kAnyNumber, "the machines; all when left out"_L1,
+                      kAMachine}},
         .options = {{"--output"_L1, "-o"_L1, "FILE"_L1,
-                     "write to FILE instead of the standard output"_L1}},
+                     "write to FILE instead of the standard output"_L1, kAFile}},
         .exitCodes = {kNotFound},
         .examples = {{"export --output machines.json"_L1, "all machines into a file"_L1},
                      {"export \"Kiln line 4\""_L1, "one machine to the standard output"_L1}},
@@ -185,7 +205,7 @@ Command removeCommand()
         .options = {},
         .exitCodes = {kNotFound},
         .examples = {{"remove \"Kiln line 4\""_L1, "by name"_L1},
-                     {"remove 3f2a 90c1"_L1, "two machines by the first digits of their ids"_L1}},
+                     {"remove c3dc 1aeb"_L1, "two machines by the first digits of their ids"_L1}},
         .run = runRemove,
     };
 }
@@ -204,7 +224,7 @@ Command renameCommand()
             {{ExitCode::Finding,
               "the machine was not found, its name fits several machines, or it is not valid"_L1}},
         .examples = {{"rename \"Kiln line 4\" \"Kiln line 5\""_L1, "by name"_L1},
-                     {"rename 3f2a \"Kiln line 5\""_L1, "by the first digits of its id"_L1}},
+                     {"rename c3dc \"Kiln line 5\""_L1, "by the first digits of its id"_L1}},
         .run = runRename,
     };
 }
@@ -218,7 +238,7 @@ Command enumsCommand()
             "The names are what records store, the texts beside them what people read in the "
             "language of --lang or of the environment. Without NAME: all enumerations, and how "
             "many values each has."_L1,
-        .operands = {{"NAME"_L1, 0, 1, "an enumeration"_L1}},
+        .operands = {{"NAME"_L1, 0, 1, "an enumeration"_L1, kAnEnumeration}},
         .options = {},
         .exitCodes = {{ExitCode::Finding, "there is no such enumeration"_L1}},
         .examples = {{"enums"_L1, "all enumerations"_L1},
@@ -256,7 +276,7 @@ Command validateCommand()
             "database. Which of the two a file is shows in its first bytes.\n"
             "The findings are the command's output. Warnings alone leave the exit code at 0."_L1,
         .operands = {{"FILE|DB"_L1, 1, Operand::kAnyNumber,
-                      "files in JSON or databases; \"-\" is the standard input"_L1}},
+                      "files in JSON or databases; \"-\" is the standard input"_L1, kAFile}},
         .options = {},
         .exitCodes = {{ExitCode::Finding, "a record would be refused"_L1}},
         .examples = {{"validate machines.json"_L1, "before an import"_L1},
@@ -278,7 +298,7 @@ Command verifyCommand()
                        "A batch that was never completed, as a crash leaves it, and odd line ends "
                        "lose nothing "
                        "that was stored; they are reported and count as findings."_L1,
-        .operands = {{"DB"_L1, 0, 1, "the database; that of --db when left out"_L1}},
+        .operands = {{"DB"_L1, 0, 1, "the database; that of --db when left out"_L1, kAFile}},
         .options = {},
         .exitCodes = {{ExitCode::Finding,
                        "records are left out because of their content, or bytes that "
@@ -297,7 +317,7 @@ Command helpCommand()
         .name = "help"_L1,
         .summary = "Explain the tool or one of its commands"_L1,
         .description = ""_L1,
-        .operands = {{"COMMAND"_L1, 0, 1, "the command to explain"_L1}},
+        .operands = {{"COMMAND"_L1, 0, 1, "the command to explain"_L1, kACommand}},
         .options = {},
         .exitCodes = {},
         .examples = {{"help"_L1, "all commands"_L1}, {"help import"_L1, "one command"_L1}},
@@ -322,14 +342,15 @@ const QList<Command> &commandTable()
 const QList<Option> &globalOptions()
 {
     static const QList<Option> options{
-        {"--db"_L1, ""_L1, "FILE"_L1, "the database (Printers.tdb when left out)"_L1},
+        {"--db"_L1, ""_L1, "FILE"_L1, "the database (Printers.tdb when left out)"_L1, kAFile},
         {"--key-file"_L1, ""_L1, "FILE"_L1,
-         "the database's key is the content of FILE, without the line end at its end"_L1},
+         "the database's key is the content of FILE, without the line end at its end"_L1, kAFile},
         {"--wait"_L1, ""_L1, "SECONDS"_L1,
          "how long to wait for another process that holds the database (10)"_L1},
         {"--lang"_L1, ""_L1, "LANGUAGE"_L1,
          "show values by their texts in this language; C shows the stored names (the "
-         "environment's language)"_L1},
+         "environment's language)"_L1,
+         kALanguage},
         {"--json"_L1, ""_L1, ""_L1, "write data and messages as JSON"_L1},
         {"--quiet"_L1, "-q"_L1, ""_L1, "show no progress on the terminal"_L1},
         {"--help"_L1, "-h"_L1, ""_L1, "show this help"_L1},

@@ -29,7 +29,8 @@ Command backupCommand()
             "older copy had make it unequal, too.\n"
             "A file that is no database, is damaged in its header, belongs to another key or to a "
             "newer program is left as it is. With a key the copy is signed with it."_L1,
-        .operands = {{"DEST"_L1, 1, 1, "the copy's file, or the folder for it"_L1}},
+        .operands =
+            {{"DEST"_L1, 1, 1, "the copy's file, or the folder for it"_L1, {Words::Kind::Files}}},
         .options = {{"--replace"_L1, ""_L1, ""_L1, "keep nothing of an older copy"_L1},
                     {"--verify"_L1, ""_L1, ""_L1, "open the copy again and compare"_L1}},
         .exitCodes = {{ExitCode::Finding,
@@ -60,9 +61,11 @@ Command restoreCommand()
             "machines only with --merge or --allow-empty, an empty file not at all.\n"
             "With --key-file the backup must have been made with that key, unless --any-key is "
             "given."_L1,
-        .operands =
-            {{"SOURCE"_L1, 1, 1,
-              "the backup's file, or the folder that holds one called like the database"_L1}},
+        .operands = {{"SOURCE"_L1,
+                      1,
+                      1,
+                      "the backup's file, or the folder that holds one called like the database"_L1,
+                      {Words::Kind::Files}}},
         .options =
             {{"--merge"_L1, ""_L1, ""_L1, "remove nothing"_L1},
              {"--dry-run"_L1, ""_L1, ""_L1,
@@ -141,8 +144,8 @@ Command recoverCommand()
             "its name or its children may have changed, so look at it.\n"
             "With the key of a keyed file, its codes are checked and the new file is keyed; "
             "without it, sums alone are checked and the new file has no key."_L1,
-        .operands = {{"DAMAGED"_L1, 1, 1, "the damaged file"_L1},
-                     {"NEW"_L1, 1, 1, "the file to be made"_L1}},
+        .operands = {{"DAMAGED"_L1, 1, 1, "the damaged file"_L1, {Words::Kind::Files}},
+                     {"NEW"_L1, 1, 1, "the file to be made"_L1, {Words::Kind::Files}}},
         .options = {{"--unproven"_L1, ""_L1, ""_L1,
                      "carry damaged records, too, whose content id is right"_L1}},
         .exitCodes = {{ExitCode::Done, "every record was carried"_L1},

@@ -1,0 +1,27 @@
+# SPDX-FileCopyrightText: 2026 Norvane
+# SPDX-License-Identifier: MPL-2.0
+
+# The part of complete.zsh that the interactive zsh reads.
+
+PS1=
+unsetopt beep prompt_cr prompt_sp
+fpath=(${COMPLETION:h} $fpath)
+autoload -Uz compinit && compinit -u -D
+
+compadd() {
+    local -a hits
+    # Some calls only ask which matches there would be.
+    if (( ! ${@[(I)-[OAD]]} )); then
+        builtin compadd -O hits "$@"
+        print -rl -- $hits >>$MATCHES
+    fi
+    builtin compadd "$@"
+}
+
+complete-and-tell() {
+    zle complete-word
+    print DONE
+}
+zle -C complete-word .complete-word _main_complete
+zle -N complete-and-tell
+bindkey '^X' complete-and-tell
