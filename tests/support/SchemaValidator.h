@@ -36,10 +36,11 @@ public:
     /// Why there can be no validation; empty when there can.
     QString failure() const { return m_failure; }
 
-    /// What is wrong with the record by NAME.schema.json, each as "POINTER: MESSAGE".
-    QStringList errors(const QString &name, const QJsonObject &record)
+    /// What is wrong with the value by NAME.schema.json, or by a part of that as
+    /// "tool-output#/$defs/list" names it; each as "POINTER: MESSAGE".
+    QStringList errors(const QString &name, const QJsonValue &value)
     {
-        const QJsonObject request{{u"schema"_s, name}, {u"instance"_s, record}};
+        const QJsonObject request{{u"schema"_s, name}, {u"instance"_s, value}};
         m_process.write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
         const QJsonDocument answer = QJsonDocument::fromJson(readLine());
         if (!answer.isArray())

@@ -5,10 +5,11 @@
 
     validate_records.py FOLDER
 
-After the line "ready" it reads one request a line, {"schema": "record", "instance": ...}, and
-answers each with a line: the array of what is wrong, each as "POINTER: MESSAGE".
+After the line "ready" it reads one request a line, {"schema": "record", "instance": ...}, where a
+schema may be a part of a file: "tool-output#/$defs/list". It answers each with a line: the array of what is wrong, each as "POINTER: MESSAGE".
 """
 
+import functools
 import json
 import pathlib
 import sys
@@ -24,18 +25,23 @@ def refuse(uri):
 
 
 def validators(folder):
+    """Makes the validator of a schema, given as in a request."""
     schemas = {}
     for path in sorted(folder.glob("*.schema.json")):
         schema = json.loads(path.read_text(encoding="utf-8"))
         Draft202012Validator.check_schema(schema)
         schemas[path.as_uri()] = schema
     handlers = {scheme: refuse for scheme in ("file", "http", "https", "ftp")}
-    return {
-        uri.rsplit("/", 1)[1].removesuffix(".schema.json"): Draft202012Validator(
-            schema, resolver=RefResolver(uri, schema, store=schemas, handlers=handlers)
-        )
-        for uri, schema in schemas.items()
-    }
+    base = folder.as_uri()
+
+    def validator(name):
+        name, mark, part = name.partition("#")
+        uri = f"{base}/{name}.schema.json"
+        resolver = RefResolver(uri, schemas[uri], store=schemas, handlers=handlers)
+        schema = {"$ref": mark + part} if mark else schemas[uri]
+        return Draft202012Validator(schema, resolver=resolver)
+
+    return functools.cache(validator)
 
 
 def pointer(error):
@@ -47,7 +53,7 @@ def main():
     print("ready", flush=True)
     for line in sys.stdin:
         request = json.loads(line)
-        errors = known[request["schema"]].iter_errors(request["instance"])
+        errors = known(request["schema"]).iter_errors(request["instance"])
         print(json.dumps([f"{pointer(e)}: {e.message[:200]}" for e in errors]), flush=True)
 
 
