@@ -37,7 +37,7 @@ constexpr std::chrono::milliseconds kCommitDelay(5000);
 /// still be there.
 void buildStaticObjects()
 {
-    QLocale(); // The default locale, in which stored names are written, is one of Qt's.
+    const QLocale locale; // The default one, in which stored names are written, is one of Qt's.
     ChannelV100Sort_T::instance();
     Channel_T::instance();
     ElaborationType_T::instance();

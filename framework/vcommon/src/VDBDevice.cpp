@@ -31,7 +31,7 @@ namespace {
 constexpr std::chrono::seconds kRelockTimeout(10);
 
 /// Content is read and copied in blocks of this size.
-constexpr qint64 kBlock = 1024 * 1024;
+constexpr qint64 kBlock = qint64(1024) * 1024;
 
 /// From here on memory may come in pages of 2 MB, the usual size of large ones.
 constexpr qint64 kWorthLargePages = 4 * kBlock;

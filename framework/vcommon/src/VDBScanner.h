@@ -10,7 +10,7 @@
 namespace Norvane::Database {
 
 /// How large the pieces are in which lines are checked in parallel.
-constexpr qsizetype kPieceSize = 64 * 1024;
+constexpr qsizetype kPieceSize = qsizetype(64) * 1024;
 
 /// Reads the whole of a file's bytes. Takes any bytes, in time proportional to their number.
 ///

@@ -21,8 +21,8 @@ constexpr char kSeal[] = {char(LineKind::Seal), '\n'};
 /// file, and never much beside the content.
 qint64 fillingFor(qint64 size)
 {
-    constexpr qint64 kUsual = 64 * 1024;
-    constexpr qint64 kMost = 1024 * 1024;
+    constexpr qint64 kUsual = qint64(64) * 1024;
+    constexpr qint64 kMost = qint64(1024) * 1024;
     return std::clamp(size / 50, std::min(size / 2, kUsual), kMost);
 }
 
