@@ -44,7 +44,7 @@ void Batch::insert(const QString &id, const QByteArray &payload)
     }
 }
 
-void Batch::remove(const QString &id, bool wasStored)
+void Batch::remove(const QString &id)
 {
     QByteArray payload;
     appendEscaped(payload, id.toUtf8());
@@ -53,7 +53,7 @@ void Batch::remove(const QString &id, bool wasStored)
         // A record that was only ever in the batch leaves a removal of nothing behind: harmless.
         m_changes[*known].kind = LineKind::Remove;
         m_changes[*known].payload = payload;
-    } else if (wasStored) {
+    } else {
         m_byId.insert(id, m_changes.size());
         m_changes.push_back({id, LineKind::Remove, payload});
     }

@@ -30,8 +30,8 @@ public:
     /// Whether the batch holds a record under the key; nothing when it says nothing about it.
     std::optional<bool> contains(const QString &id) const;
     void insert(const QString &id, const QByteArray &payload);
-    /// `wasStored` tells whether there is something in the file to be removed.
-    void remove(const QString &id, bool wasStored);
+    /// Removes a record that is in the file or in the batch.
+    void remove(const QString &id);
     /// The lines of the batch with their commit line, behind the bytes `before`.
     EncodedBatch encode(const Signer &signer, const QByteArray &before) const;
 

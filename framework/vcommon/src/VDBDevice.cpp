@@ -354,7 +354,7 @@ bool Device::syncCreation()
 
 void Device::removeCreated()
 {
-    if (m_hasCreated && file() != nullptr)
+    if (m_hasCreated)
         QFile::remove(file()->fileName());
 }
 

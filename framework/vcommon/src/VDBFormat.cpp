@@ -138,15 +138,11 @@ void appendField(QByteArray &payload, const QString &key, std::optional<QByteArr
     }
 }
 
-QByteArray encodeFields(const QList<FormatField> &fields)
+QByteArray encodeFields(const QList<std::pair<QString, QString>> &fields)
 {
     QByteArray payload;
-    for (const FormatField &field : fields) {
-        if (field.value)
-            appendField(payload, field.key, field.value->toUtf8());
-        else
-            appendField(payload, field.key, std::nullopt);
-    }
+    for (const auto &[key, value] : fields)
+        appendField(payload, key, value.toUtf8());
     return payload;
 }
 

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 
 // The bytes of the text database. docs/file-format.md describes them; the two change together.
 
@@ -54,8 +55,8 @@ QString textFromUtf8(QByteArrayView utf8);
 
 /// Appends a field, "key=value", or the key alone for a null value, behind a tab where one is due.
 void appendField(QByteArray &payload, const QString &key, std::optional<QByteArrayView> utf8);
-/// Writes fields as "key=value" joined by tabs; a field with a null value is its key alone.
-QByteArray encodeFields(const QList<FormatField> &fields);
+/// Writes keys and values as "key=value" joined by tabs.
+QByteArray encodeFields(const QList<std::pair<QString, QString>> &fields);
 QList<FormatField> decodeFields(QByteArrayView payload);
 
 /// One field of a payload as it stands there, escapes and all.

@@ -84,7 +84,7 @@ bool VDBText::remove(const QString &id)
 {
     if (!isOpen() || d->intent == Device::Intent::Read || !contains(id))
         return false;
-    d->batch.remove(id, d->contents.index.contains(id));
+    d->batch.remove(id);
     return true;
 }
 
