@@ -43,6 +43,7 @@ private Q_SLOTS:
     void json_takesFallbacks();
     void dataId_isThatOfTheChannelNames_data();
     void dataId_isThatOfTheChannelNames();
+    void dataId_needsNobodyToHearThatItIsThere();
     void dataId_ignoresOrderAndFlags();
     void dataId_ofALoadedRecordFollowsItsVersion();
     void equality_needsTheSameOrderAndFlags();
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void emptiness_isWithoutChannels();
     void validity_isTheBases();
     void clone_isEqualAndIndependent();
+    void assignment_takesEverything();
 };
 
 void tst_VPrintUnitDriver::new_hasTheDefaults()
@@ -170,6 +172,19 @@ void tst_VPrintUnitDriver::dataId_isThatOfTheChannelNames()
     QCOMPARE(unitWith(channels, VVersion::fromString(version)).dataId(), QUuid(id));
 }
 
+// A host's own class may ask for the id alone.
+void tst_VPrintUnitDriver::dataId_needsNobodyToHearThatItIsThere()
+{
+    class Asking : public VPrintUnitDriver
+    {
+    public:
+        using VPrintUnitDriver::innerDataId;
+        using VPrintUnitDriver::VPrintUnitDriver;
+    };
+    const Asking unit(kSpace);
+    QCOMPARE(unit.innerDataId(nullptr), unit.dataId());
+}
+
 void tst_VPrintUnitDriver::dataId_ignoresOrderAndFlags()
 {
     const VPrintUnitDriver unit = unitWith({Channel::Cyan, Channel::Magenta});
@@ -260,6 +275,21 @@ void tst_VPrintUnitDriver::clone_isEqualAndIndependent()
     QVERIFY(*copy == unit);
     copy->setChannels({});
     QCOMPARE(unit.channels(), QList{Channel::Cyan});
+}
+
+void tst_VPrintUnitDriver::assignment_takesEverything()
+{
+    VPrintUnitDriver unit = unitWith({Channel::Cyan, Channel::Black});
+    unit.setCustomVerticalResolution(true);
+    unit.setName(u"Bar 1"_s);
+    VPrintUnitDriver other;
+    other = unit;
+    QVERIFY(other == unit);
+    const VPrintUnitDriver &itself = other;
+    other = itself;
+    QVERIFY(other == itself);
+    other.setChannels({});
+    QCOMPARE(unit.channels().size(), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_VPrintUnitDriver)

@@ -6,6 +6,7 @@
 #include "support/Drivers.h"
 #include "support/Icons.h"
 
+#include <QtCore/QDataStream>
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QIcon>
@@ -32,6 +33,40 @@ QByteArray svgOf(const VPrinterDriver &driver)
     return text.isEmpty() ? QByteArray() : qUncompress(QByteArray::fromBase64(text.toLatin1()));
 }
 
+/// An image of 16 by 16 pixels as an .ico holds it: red with 32 bits a pixel, else black.
+QByteArray icoImage(quint16 bits)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << quint32(40) << qint32(16) << qint32(32) << quint16(1) << bits;
+    for (int field = 0; field < 6; ++field)
+        out << quint32(0);
+    if (bits == 1)
+        out << quint32(0) << quint32(0x00FFFFFF);
+    for (int word = 0; word < (bits == 1 ? 16 : 256); ++word)
+        out << quint32(bits == 1 ? 0 : 0xFFFF0000);
+    for (int line = 0; line < 16; ++line)
+        out << quint32(0); // The mask: all of it is opaque.
+    return bytes;
+}
+
+QByteArray icoWith(const QList<quint16> &depths)
+{
+    QByteArray bytes;
+    QByteArray images;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << quint16(0) << quint16(1) << quint16(depths.size());
+    for (const quint16 depth : depths) {
+        const QByteArray image = icoImage(depth);
+        out << quint8(16) << quint8(16) << quint8(depth == 1 ? 2 : 0) << quint8(0) << quint16(1)
+            << depth << quint32(image.size()) << quint32(6 + 16 * depths.size() + images.size());
+        images += image;
+    }
+    return bytes + images;
+}
+
 const QList<QSize> &svgSizes()
 {
     static const QList<QSize> kSizes{{16, 16},   {24, 24},   {32, 32},    {48, 48},
@@ -55,6 +90,8 @@ private Q_SLOTS:
     void svgIcon_leavesNoFileBehind();
     void svgIcon_withoutATemporaryFileIsAnEmptyIcon();
     void imageFile_isWhatQIconReadsFromIt();
+    void icoFile_isWhatQIconReadsFromIt_data();
+    void icoFile_isWhatQIconReadsFromIt();
     void imageFile_isStoredAsItWasWhenItWasSet();
     void settingOneIcon_clearsTheOther();
 };
@@ -162,6 +199,31 @@ void tst_icon_files::imageFile_isWhatQIconReadsFromIt()
     driver.setIcon(dir.filePath(u"missing.png"_s));
     QVERIFY(driver.icon().availableSizes().isEmpty());
     QVERIFY(!innerOf(driver).contains("icon"_L1));
+}
+
+void tst_icon_files::icoFile_isWhatQIconReadsFromIt_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QColor>("colour");
+    QTest::newRow("one image") << icoWith({32}) << QColor(Qt::red);
+    QTest::newRow("the deeper one comes last") << icoWith({1, 32}) << QColor(Qt::red);
+    QTest::newRow("the deeper one comes first") << icoWith({32, 1}) << QColor(Qt::red);
+    QTest::newRow("two of one depth") << icoWith({1, 1}) << QColor(Qt::black);
+    QTest::newRow("the second is cut off") << icoWith({1, 32}).chopped(1000) << QColor(Qt::black);
+}
+
+void tst_icon_files::icoFile_isWhatQIconReadsFromIt()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QColor, colour);
+    const QTemporaryDir dir;
+    const QString path = written(dir, u"a.ico"_s, content);
+    VPrinterDriver driver;
+    driver.setIcon(path);
+    QCOMPARE(driver.icon().availableSizes(), QList<QSize>{QSize(16, 16)});
+    const QImage image = driver.icon().pixmap(QSize(16, 16), 1.0).toImage();
+    QCOMPARE(image.pixelColor(8, 8), colour);
+    QCOMPARE(image, QIcon(path).pixmap(QSize(16, 16), 1.0).toImage());
 }
 
 void tst_icon_files::imageFile_isStoredAsItWasWhenItWasSet()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void failure_isHeardAndNothingIsLost();
     void shortTransfers_areNoFailure_data();
     void shortTransfers_areNoFailure();
+    void bufferedFile_thatCannotBeFlushedIsNoSuccess();
 
 private:
     void fail(const Operation &operation, std::size_t call, int error, bool isLasting);
@@ -220,6 +221,30 @@ void tst_failing_calls::shortTransfers_areNoFailure()
     figure(u"%1: short reads and writes, %2 runs: none failed"_s
                .arg(QLatin1StringView(operation->name))
                .arg(runs));
+}
+
+// Qt takes the bytes of a file that has a buffer, and says later that it could not write them.
+void tst_failing_calls::bufferedFile_thatCannotBeFlushedIsNoSuccess()
+{
+    QFile file(m_folder.filePath(u"buffered.tdb"_s));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    VPrintersDb database(&file, QString());
+    database.init(false);
+    database.insert(printer(u"A"_s));
+    database.commit();
+    QVERIFY(!database.isDirty());
+    database.insert(printer(u"B"_s));
+    FileCalls::setJudge([](const FileCall &call) {
+        FileCallFate fate;
+        fate.error = call.kind == FileCall::Write ? ENOSPC : 0;
+        return fate;
+    });
+    database.commit();
+    FileCalls::setJudge(nullptr);
+    QVERIFY(database.isDirty());
+    database.commit();
+    QVERIFY(!database.isDirty());
+    QCOMPARE(stored(file.fileName()), storedFrom(database.values()));
 }
 
 QTEST_GUILESS_MAIN(tst_failing_calls)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvane
 // SPDX-License-Identifier: MPL-2.0
 
+#include "support/FaultyDevice.h"
 #include "support/Store.h"
 
 #include <vcommon/VDBSalvage.h>
@@ -93,11 +94,13 @@ private Q_SLOTS:
     void withoutAnyHeader_everyRecordIsFound();
     void whateverBecameOfLineEnds_everyRecordIsFound_data();
     void whateverBecameOfLineEnds_everyRecordIsFound();
+    void aLostLineEnd_costsNothing();
     void aZeroedBlock_costsWhatItTouches();
     void aFlippedBit_costsOneRecordAtMost();
     void cutAnywhere_everyWholeLineIsFound();
     void aBatchWithoutItsEnd_countsButForRemovals();
     void aVoidBatch_onlyFillsGaps();
+    void aVoidBatch_bringsNothingBackThatWasRemoved();
     void whatAnInterruptedBatchLeft_isUnfinished();
     void aDamagedRecord_isGivenWhenNothingSoundIsLeft();
     void damageBehindASoundVersion_isReportedOnly();
@@ -108,7 +111,9 @@ private Q_SLOTS:
     void whatIsNoDatabase_isSaidSo_data();
     void whatIsNoDatabase_isSaidSo();
     void hostileBytes_endInTime();
+    void aRecordWithoutAnId_isReportedOnly();
     void theFile_isOnlyRead();
+    void whatCannotBeRead_isSaidWhy();
 };
 
 void tst_VDBSalvage::aSoundFile_givesWhatAReaderSees()
@@ -153,6 +158,16 @@ void tst_VDBSalvage::whateverBecameOfLineEnds_everyRecordIsFound()
         const Salvaged found = salvage(sample(key).replace("\n", lineEnd), key);
         QCOMPARE(found.status, VDBStatus::Ok);
         QCOMPARE(found.sound, kWhole);
+    }
+}
+
+void tst_VDBSalvage::aLostLineEnd_costsNothing()
+{
+    const QByteArray whole = sample();
+    for (qsizetype at = whole.indexOf('\n'); at >= 0; at = whole.indexOf('\n', at + 1)) {
+        QByteArray bytes = whole;
+        const Salvaged found = salvage(bytes.remove(at, 1));
+        QVERIFY2(found.sound == kWhole, qPrintable(u"at byte %1"_s.arg(at)));
     }
 }
 
@@ -220,6 +235,17 @@ void tst_VDBSalvage::aVoidBatch_onlyFillsGaps()
     QCOMPARE(found.sound.value(u"D"_s), u"delta"_s);
     QCOMPARE(found.sound.value(u"E"_s), u"epsilon"_s);
     QCOMPARE(found.unfinished, QStringList{u"E"_s});
+}
+
+void tst_VDBSalvage::aVoidBatch_bringsNothingBackThatWasRemoved()
+{
+    QByteArray bytes = sample();
+    QBuffer buffer(&bytes);
+    QVERIFY(commit(&buffer, {{u"D"_s, u"delta"_s}}));
+    bytes.truncate(bytes.lastIndexOf("\n=\t") + 1);
+    QVERIFY(commit(&buffer, {{u"N"_s, u"alpha"_s}}));
+    QVERIFY(bytes.contains("\n~\n"));
+    QVERIFY(!salvage(bytes).sound.contains(u"D"_s));
 }
 
 // The mark that separates it from the next batch is gone, too.
@@ -346,6 +372,18 @@ void tst_VDBSalvage::hostileBytes_endInTime()
     QCOMPARE(salvage(start.repeated(1000) + sample()).sound, kWhole);
 }
 
+void tst_VDBSalvage::aRecordWithoutAnId_isReportedOnly()
+{
+    QByteArray bytes = sample().sliced(storeWith({}).size());
+    QBuffer buffer(&bytes);
+    VDBSalvage reader(u"number"_s);
+    QCOMPARE(reader.read(&buffer, {}, {}), VDBStatus::Ok);
+    QCOMPARE(reader.count(), 0);
+    QCOMPARE(reader.damage().size(), 6); // Every insertion; a removal says itself what it removes.
+    for (const VDBDamage &damage : reader.damage())
+        QCOMPARE(damage.reason, VDBDamage::Reason::NotALine);
+}
+
 void tst_VDBSalvage::theFile_isOnlyRead()
 {
     QByteArray bytes = sample() + "garbage";
@@ -362,6 +400,18 @@ void tst_VDBSalvage::theFile_isOnlyRead()
     QCOMPARE(reader.count(), 0);
     QVERIFY(reader.damage().isEmpty());
     QCOMPARE(reader.read(nullptr, {}, {}), VDBStatus::NoDevice);
+}
+
+void tst_VDBSalvage::whatCannotBeRead_isSaidWhy()
+{
+    FaultyDevice device(sample());
+    device.failAlways(FaultyDevice::Read);
+    VDBSalvage reader(u"id"_s);
+    QCOMPARE(reader.read(&device, {}, {}), VDBStatus::Io);
+    QVERIFY(!reader.errorString().isEmpty());
+    device.failAlways(FaultyDevice::Read, false);
+    QCOMPARE(reader.read(&device, {}, {}), VDBStatus::Ok);
+    QVERIFY(reader.errorString().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_VDBSalvage)

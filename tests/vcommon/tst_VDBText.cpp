@@ -31,6 +31,8 @@ private Q_SLOTS:
     void devices_areLeftAsTheyWereFound();
     void open_ofAnUnchangedFileDoesNotReadItAgain();
     void open_seesWhatAnotherStoreWrote();
+    void aClosedStore_givesAndTakesNothing();
+    void settings_areToldAgain();
 };
 
 void tst_VDBText::create_writesAnEmptyStoreThatOpens()
@@ -280,6 +282,47 @@ void tst_VDBText::open_seesWhatAnotherStoreWrote()
         QVERIFY(store.contains(id));
         store.close();
     }
+}
+
+void tst_VDBText::aClosedStore_givesAndTakesNothing()
+{
+    QByteArray bytes = storeWith({{{u"A"_s, u"x"_s}, {u"B"_s, u"y"_s}}});
+    const QByteArray before = bytes;
+    QBuffer buffer(&bytes);
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&buffer));
+    VDBRecord known;
+    store.first(known);
+    store.close();
+    store.close();
+    QVERIFY(!store.insert(record(u"C"_s, u"z"_s)));
+    QVERIFY(!store.remove(u"A"_s));
+    QVERIFY(!store.contains(u"A"_s));
+    QCOMPARE(store.count(), 0);
+    VDBRecord first = known;
+    store.first(first);
+    QVERIFY(first.isNull());
+    VDBRecord last = known;
+    store.last(last);
+    QVERIFY(last.isNull());
+    store.next(known);
+    QVERIFY(known.isNull());
+    QCOMPARE(bytes, before);
+}
+
+void tst_VDBText::settings_areToldAgain()
+{
+    VDBText store;
+    QVERIFY(store.lockTimeout() > std::chrono::seconds(0));
+    store.setLockTimeout(std::chrono::milliseconds(7));
+    QCOMPARE(store.lockTimeout().count(), 7);
+    QVERIFY(storeWith({}).startsWith("vdbtext\t" + QByteArray::number(VDBText::formatVersion())));
+    store.setKey({}, toRead());
+    QByteArray bytes = storeWith({});
+    QBuffer buffer(&bytes);
+    QVERIFY(store.open(&buffer));
+    QVERIFY(!store.insert(record(u"A"_s, u"x"_s))); // It was opened to read.
 }
 
 QTEST_GUILESS_MAIN(tst_VDBText)

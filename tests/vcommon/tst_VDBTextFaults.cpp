@@ -32,9 +32,14 @@ private Q_SLOTS:
     void commit_withOneFailingCallIsOldOrNew();
     void commit_isNeverAcknowledgedWhenTheSyncFails();
     void commit_onADeviceThatKeepsFailingChangesNothingThatIsStored();
+    void commit_overFillingOnADeviceThatKeepsFailingChangesNothing();
+    void commit_behindAnUnfinishedBatchIsOldOrNew();
     void commit_takesShortWrites();
     void create_thatFailsCanBeDoneAgain();
     void open_thatCannotReadSaysSo();
+    void purge_thatCannotReadOrWriteSaysSo_data();
+    void purge_thatCannotReadOrWriteSaysSo();
+    void purge_thatCannotWriteThePendingBatchChangesNothing();
     void failedBatch_doesNotReachTheNextOne();
 };
 
@@ -91,6 +96,43 @@ void tst_VDBTextFaults::commit_onADeviceThatKeepsFailingChangesNothingThatIsStor
     QCOMPARE(readStore(device.bytes()).sound, kNew);
 }
 
+void tst_VDBTextFaults::commit_overFillingOnADeviceThatKeepsFailingChangesNothing()
+{
+    FaultyDevice device(oldBytes() + QByteArray(5000, '\n'));
+    device.failAlways(FaultyDevice::Write);
+    VDBText store;
+    store.setKey({}, toWrite());
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(store.open(&device));
+        QVERIFY(store.insert(record(u"A"_s, u"new"_s)));
+        store.close();
+        QVERIFY(!store.wasDurable());
+        QCOMPARE(readStore(device.bytes()).sound, kOld);
+    }
+    device.failAlways(FaultyDevice::Write, false);
+    QVERIFY(commit(&device, kChange));
+    QCOMPARE(readStore(device.bytes()).sound, kNew);
+}
+
+// The mark that makes the unfinished one void goes ahead, and is synced by itself.
+void tst_VDBTextFaults::commit_behindAnUnfinishedBatchIsOldOrNew()
+{
+    QByteArray unfinished = storeWith({kOld, {{u"A"_s, u"never"_s}}});
+    unfinished.truncate(unfinished.lastIndexOf("\n=\t") + 1);
+    for (const auto call : {FaultyDevice::Write, FaultyDevice::Sync}) {
+        for (int n = 1; n <= 4; ++n) {
+            FaultyDevice device(unfinished);
+            device.failAt(call, n);
+            const bool acknowledged = commit(&device, kChange);
+            const State found = readStore(device.bytes()).sound;
+            QVERIFY(found == kNew || (found == kOld && !acknowledged));
+            device.failAt(call, 0);
+            QVERIFY(commit(&device, kChange));
+            QCOMPARE(readStore(device.bytes()).sound, kNew);
+        }
+    }
+}
+
 void tst_VDBTextFaults::commit_takesShortWrites()
 {
     class ShortDevice : public FaultyDevice
@@ -132,6 +174,44 @@ void tst_VDBTextFaults::open_thatCannotReadSaysSo()
     QCOMPARE(readStore(&device).status, VDBStatus::Io);
     QVERIFY(!device.isOpen());
     QCOMPARE(device.bytes(), oldBytes());
+}
+
+void tst_VDBTextFaults::purge_thatCannotReadOrWriteSaysSo_data()
+{
+    QTest::addColumn<FaultyDevice::Call>("call");
+    QTest::addColumn<int>("n");
+    QTest::newRow("no line can be read") << FaultyDevice::Read << 1;
+    QTest::newRow("the new content cannot be written") << FaultyDevice::Write << 1;
+    QTest::newRow("what is left over cannot be made blank") << FaultyDevice::Write << 2;
+    QTest::newRow("it cannot be synced") << FaultyDevice::Sync << 1;
+}
+
+void tst_VDBTextFaults::purge_thatCannotReadOrWriteSaysSo()
+{
+    QFETCH(FaultyDevice::Call, call);
+    QFETCH(int, n);
+    FaultyDevice device(storeWith({kOld, kChange})); // It is longer than what is live.
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&device));
+    device.failAt(call, n);
+    QVERIFY(!store.purge());
+    QCOMPARE(store.status(), VDBStatus::Io);
+    store.close();
+}
+
+void tst_VDBTextFaults::purge_thatCannotWriteThePendingBatchChangesNothing()
+{
+    FaultyDevice device(oldBytes());
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&device));
+    QVERIFY(store.insert(record(u"A"_s, u"new"_s)));
+    device.failAlways(FaultyDevice::Write);
+    QVERIFY(!store.purge());
+    QVERIFY(!store.wasDurable());
+    store.close();
+    QCOMPARE(readStore(device.bytes()).sound, kOld);
 }
 
 void tst_VDBTextFaults::failedBatch_doesNotReachTheNextOne()

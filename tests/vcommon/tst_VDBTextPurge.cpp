@@ -45,6 +45,10 @@ private Q_SLOTS:
     void purge_dropsWhatIsDeadAndKeepsTheRest();
     void purge_carriesLiveLinesByteForByte();
     void purge_carriesWhatItCannotRead();
+    void purge_forgetsADamagedMark();
+    void purge_ofALargeStoreKeepsEveryRecord();
+    void purge_afterThousandsOfChangesWritesWhatThatOfANewStoreDoes();
+    void purge_ofAFileThatWasCutMeanwhileFails();
     void purge_ofAPurgedStoreChangesNothing();
     void purge_swapsTheFileAndKeepsItsPermissions();
     void purge_ofALinkedFileReplacesTheFileNotTheLink();
@@ -53,6 +57,7 @@ private Q_SLOTS:
     void purge_inAFolderThatTakesNoFileFailsAndHarmsNothing();
     void purge_ofALongLivedStoreWritesWhatThatOfANewOneDoes();
     void reindex_readsTheFileAnew();
+    void reindex_ofAFileThatIsNowKeyedNeedsTheKey();
 };
 
 void tst_VDBTextPurge::purge_dropsWhatIsDeadAndKeepsTheRest()
@@ -98,6 +103,90 @@ void tst_VDBTextPurge::purge_carriesWhatItCannotRead()
         QCOMPARE(seen.damagedRecords, 1);
         QCOMPARE(seen.damage.size(), std::size_t(2));
     }
+}
+
+void tst_VDBTextPurge::purge_forgetsADamagedMark()
+{
+    QByteArray sound = storeWith({{{u"A"_s, u"1"_s}}, {{u"B"_s, u"2"_s}}});
+    QByteArray damaged = sound;
+    damaged.replace(damaged.indexOf("\n.\n") + 1, 1, "?");
+    for (QByteArray *const bytes : {&sound, &damaged}) {
+        QBuffer buffer(bytes);
+        QVERIFY(purge(&buffer));
+    }
+    QCOMPARE(damaged, sound);
+}
+
+void tst_VDBTextPurge::purge_ofALargeStoreKeepsEveryRecord()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(u"a.tdb"_s));
+    QBuffer buffer;
+    QMap<QString, QString> expected;
+    for (QIODevice *const device :
+         {static_cast<QIODevice *>(&file), static_cast<QIODevice *>(&buffer)}) {
+        VDBText store;
+        QVERIFY(createStore(store, device));
+        store.close();
+        for (int i = 0; i < 8; ++i) {
+            const QString text(400'000, QChar(u'a' + i));
+            QVERIFY(commit(device, {{u"dead"_s, text}, {QString::number(i), text}}));
+            expected.insert(QString::number(i), text);
+        }
+        QVERIFY(commit(device, {{u"dead"_s, QString()}}));
+        QVERIFY(purge(device));
+        QVERIFY(readStore(device).sound == expected);
+        QVERIFY(readStore(device).damage.empty());
+    }
+}
+
+// So many that the store forgets what it knew of the dead ones.
+void tst_VDBTextPurge::purge_afterThousandsOfChangesWritesWhatThatOfANewStoreDoes()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(u"a.tdb"_s));
+    QFile copy(folder.filePath(u"copy.tdb"_s));
+    QByteArray bytes = storeWith({{{u"damaged"_s, u"alpha"_s}, {u"kept"_s, u"1"_s}}});
+    bytes.replace("alpha", "alpho");
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    VDBText store;
+    store.setKey({}, toWrite());
+    for (int round = 0; round < 3; ++round) {
+        QVERIFY(store.open(&file));
+        for (int id = 0; id < 600; ++id)
+            QVERIFY(store.insert(record(QString::number(id), QString::number(round))));
+        store.close();
+        QVERIFY(store.wasDurable());
+    }
+    QVERIFY(file.copy(copy.fileName()));
+    QVERIFY(purge(&copy));
+    QVERIFY(store.open(&file));
+    QVERIFY(store.contains(u"599"_s));
+    QVERIFY(store.purge());
+    store.close();
+    QCOMPARE(contentOf(file.fileName()), contentOf(copy.fileName()));
+    QCOMPARE(readStore(&file).sound.size(), 601);
+    QCOMPARE(readStore(&file).damagedRecords, 1);
+}
+
+void tst_VDBTextPurge::purge_ofAFileThatWasCutMeanwhileFails()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(u"a.tdb"_s));
+    VDBText store;
+    QVERIFY(createStore(store, &file));
+    store.insert(record(u"A"_s, QString(1000, u'x')));
+    store.close();
+    QVERIFY(store.open(&file));
+    const qint64 size = storeWith({}).size();
+    QVERIFY(QFile::resize(file.fileName(), size)); // By somebody who ignores the lock.
+    QVERIFY(!store.purge());
+    QCOMPARE(store.status(), VDBStatus::Io);
+    QCOMPARE(store.errorString(), u"the file has become shorter"_s);
+    store.close();
+    QCOMPARE(contentOf(file.fileName()).size(), size);
+    QVERIFY(!QFile::exists(file.fileName() + u".new"_s));
 }
 
 void tst_VDBTextPurge::purge_ofAPurgedStoreChangesNothing()
@@ -258,6 +347,18 @@ void tst_VDBTextPurge::reindex_readsTheFileAnew()
     QVERIFY(store.reindex());
     QVERIFY(!store.contains(u"A"_s));
     QVERIFY(store.contains(u"B"_s));
+}
+
+void tst_VDBTextPurge::reindex_ofAFileThatIsNowKeyedNeedsTheKey()
+{
+    QByteArray bytes = storeWith({{{u"A"_s, u"1"_s}}});
+    QBuffer buffer(&bytes);
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&buffer));
+    bytes = storeWith({{{u"A"_s, u"1"_s}}}, u"secret"_s);
+    QVERIFY(!store.reindex());
+    QCOMPARE(store.status(), VDBStatus::KeyRequired);
 }
 
 QTEST_GUILESS_MAIN(tst_VDBTextPurge)

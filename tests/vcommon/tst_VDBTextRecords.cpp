@@ -51,11 +51,14 @@ private Q_SLOTS:
     void utf8_ofAPlainValueIsNoCopy();
     void utf8_tellsNullAndMissingFromEmpty();
     void utf8_ofAnyBytesIsValid();
+    void utf8_ofABrokenEscapeIsTheEscape_data();
+    void utf8_ofABrokenEscapeIsTheEscape();
     void insertUtf8_replacesWhatIsNoUtf8();
     void search_takesTheLastOfEqualFields();
     void search_findsKeysWithNeedlessEscapes();
     void change_ofAStoredRecordKeepsTheOtherFields();
     void copies_areIndependent();
+    void aStoreWithoutCulturesWritesNone();
 };
 
 void tst_VDBTextRecords::values_areTheRecordsOfAWalk()
@@ -188,6 +191,23 @@ void tst_VDBTextRecords::utf8_ofAnyBytesIsValid()
     }
 }
 
+void tst_VDBTextRecords::utf8_ofABrokenEscapeIsTheEscape_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::newRow("nothing behind it") << "a\\"_ba;
+    QTest::newRow("an unknown letter") << "a\\qz"_ba;
+    QTest::newRow("one digit") << "a\\x4"_ba;
+    QTest::newRow("a second digit that is none") << "a\\x4g"_ba;
+    QTest::newRow("a first digit that is none") << "a\\xg4"_ba;
+    QTest::newRow("a capital digit") << "a\\x4Bz"_ba;
+}
+
+void tst_VDBTextRecords::utf8_ofABrokenEscapeIsTheEscape()
+{
+    QFETCH(QByteArray, value);
+    QCOMPARE(utf8Of(firstOf(fileWithPayload("id=A\ttext=" + value)), u"text"_s), value);
+}
+
 void tst_VDBTextRecords::insertUtf8_replacesWhatIsNoUtf8()
 {
     VDBRecord record;
@@ -237,6 +257,19 @@ void tst_VDBTextRecords::copies_areIndependent()
     QCOMPARE(utf8Of(record, u"text"_s), "alpha"_ba);
     QVERIFY(record.checkSignature());
     QCOMPARE(utf8Of(copy, u"text"_s), "beta"_ba);
+}
+
+void tst_VDBTextRecords::aStoreWithoutCulturesWritesNone()
+{
+    QBuffer buffer;
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.create(&buffer, u"id"_s, VDBText::WithSignature, QLocale::c(), u"2"_s));
+    QVERIFY(store.insert(record(u"A"_s, u"alpha"_s)));
+    store.close();
+    const VDBRecord found = firstOf(buffer.data());
+    QVERIFY(found.checkSignature());
+    QCOMPARE(found.keys(), QStringList({u"id"_s, u"text"_s}));
 }
 
 QTEST_GUILESS_MAIN(tst_VDBTextRecords)

@@ -127,6 +127,8 @@ void tst_VDeviceConfigOpaque::child_isCountedAndRemoved()
     const QUuid kind(u"{0c1b7a11-6f4e-4d6a-9d55-2a0c5c1b7a12}"_s);
     QCOMPARE(config.count(QUuid(), true), 2);
     QCOMPARE(config.count(kind, false), 1);
+    QVERIFY(!config.values(QUuid()).first()->isEmpty());
+    QVERIFY(config.values(QUuid()).last()->isEmpty());
     QVERIFY(config.remove(kind, false));
     QCOMPARE(childrenOf(config), QJsonArray{QJsonObject()});
 }
@@ -138,6 +140,8 @@ void tst_VDeviceConfigOpaque::child_isComparedByWhatItHolds()
     const Config config = parentOf({stranger()});
     QVERIFY(config == parentOf({stranger()}));
     QVERIFY(config != parentOf({other}));
+    const Config known(u"known"_s);
+    QVERIFY(config != parentOf({known.toJsonObject()}));
     const Config renamed = parentOf({stranger()});
     renamed.values(QUuid()).first()->setName(u"Other"_s);
     QVERIFY(config != renamed);

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void numbers_readLikeADocument_data();
     void numbers_readLikeADocument();
     void valuesOfAnotherType_giveTheFallback();
+    void manyKeysInNoOrder_areRefused();
     void keysAreFoundAtAnyDepth();
     void everyPrefixIsRefused();
     void parsingAgain_forgetsTheFirstText();
@@ -95,6 +96,12 @@ void tst_JsonText::whatIsNotPlain_isRefused_data()
     row("a word that is none", R"({"a":truE})");
     row("invalid UTF-8", "{\"a\":\"\xff\"}");
     row("a cut sequence", "{\"a\":\"\xc3\"}");
+    row("a sequence of three that ends early", "{\"a\":\"\xe2\x82\"}");
+    row("a sequence of four that ends early", "{\"a\":\"\xf0\x9f\x98\"}");
+    for (const char *const cut :
+         {"\xc3", "\xe0", "\xe2\x82", "\xed", "\xf0", "\xf0\x9f\x98", "\xf4"})
+        QTest::addRow("an end inside a sequence, 0x%02x", uchar(*cut))
+            << QByteArray("{\"a\":\"") + cut;
     row("an overlong sequence", "{\"a\":\"\xc0\xaf\"}");
     row("an overlong sequence of three", "{\"a\":\"\xe0\x80\xaf\"}");
     row("an overlong sequence of four", "{\"a\":\"\xf0\x80\x80\xaf\"}");
@@ -206,6 +213,21 @@ void tst_JsonText::valuesOfAnotherType_giveTheFallback()
     QVERIFY(object.value("missing"_L1).isUndefined());
     QVERIFY(object.value("missing"_L1).toObject().value("deeper"_L1).isUndefined());
     QVERIFY(object.value("missing"_L1).toArray().toJsonArray().isEmpty());
+    QVERIFY(object.value("missing"_L1).toJsonValue().isUndefined());
+}
+
+// Whether one of them stands there twice would take too long to find out.
+void tst_JsonText::manyKeysInNoOrder_areRefused()
+{
+    const auto descending = [](int count) {
+        QByteArrayList members;
+        for (int i = 0; i < count; ++i)
+            members.append('"' + QByteArray::number(999 - i) + "\":0");
+        return '{' + members.join(',') + '}';
+    };
+    VJsonText text;
+    QVERIFY(text.parse(descending(64)));
+    QVERIFY(!text.parse(descending(65)));
 }
 
 void tst_JsonText::keysAreFoundAtAnyDepth()
