@@ -16,17 +16,17 @@ namespace Norvane::Kilnjet {
 enum class LevelManagement : int
 {
     None = 0x0,
-    Legacy = 0x440804,
-    Fixed = 0x041044,
-    Dynamic = 0x041084,
-    Binary = 0x0208C4,
-    BinaryCustom = 0x420904,
-    Trilevel = 0x030D44,
-    TetraL3Masking = 0x030D84,
-    OctaGrayscale = 0x480808,
-    DodeGrayscale = 0x4C080C,
-    FiftGrayscale = 0x4F080F,
-    HexaGrayscale = 0x500810,
+    Legacy = 0x440804, ///< 4 levels.
+    Fixed = 0x041044, ///< 4 levels; deprecated.
+    Dynamic = 0x041084, ///< 4 levels.
+    Binary = 0x0208C4, ///< 2 levels.
+    BinaryCustom = 0x420904, ///< 2 levels, customised.
+    Trilevel = 0x030D44, ///< 3 levels.
+    TetraL3Masking = 0x030D84, ///< 3 levels, masking.
+    OctaGrayscale = 0x480808, ///< 8 levels.
+    DodeGrayscale = 0x4C080C, ///< 12 levels.
+    FiftGrayscale = 0x4F080F, ///< 15 levels.
+    HexaGrayscale = 0x500810, ///< 16 levels.
 };
 
 } // namespace Norvane::Kilnjet

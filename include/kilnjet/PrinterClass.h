@@ -15,7 +15,7 @@ enum class PrinterClass : int
     Engraver = 2, ///< Laser engravers.
     Dryjet = 3, ///< Industrial dry-jet machines.
     Develop = 4,
-    Unknown = 5,
+    Unknown = 5, ///< Not said yet: a new driver's class.
 };
 
 } // namespace Norvane::Kilnjet

@@ -44,8 +44,11 @@ class VKILNJET_EXPORT VElaborationDriver : public Hardware::VDeviceConfig
 public:
     /// A record of the current format version, 1.0.0, with the null device id.
     VElaborationDriver();
+    /// The same with a device id.
     explicit VElaborationDriver(const QUuid &deviceId);
+    /// An independent copy, children included; metadata flagged `KillOnCopy` stays behind.
     VElaborationDriver(const VElaborationDriver &other);
+    /// Takes over everything but metadata flagged `KillOnCopy`.
     VElaborationDriver &operator=(const VElaborationDriver &other);
     ~VElaborationDriver() override;
 
@@ -53,6 +56,7 @@ public:
     /// -0.0 differ, a NaN equals itself), magnifications as numbers (0.0 and -0.0 are equal, a NaN
     /// is not).
     bool operator==(const VElaborationDriver &other) const;
+    /// The contrary of `==`.
     bool operator!=(const VElaborationDriver &other) const { return !(*this == other); }
 
     Interfaces::ICloneable *clone() const override;
@@ -62,25 +66,32 @@ public:
 
     /// Whether the elaboration may run while printing online.
     bool allowOnlineElaboration() const;
+    /// Sets allowOnlineElaboration(); a new record has false.
     void setAllowOnlineElaboration(bool allow);
     /// Whether this is the method to offer first.
     bool isPrefered() const;
+    /// Sets isPrefered(); a new record has false.
     void setPrefered(bool prefered);
     /// The screening method.
     ElaborationType elaborationType() const;
+    /// Sets the screening method; a new record has `None`, and is not valid with it.
     void setElaborationType(const ElaborationType &type);
     /// The magnifications between which the elaboration may scale.
     VMagnificationLimits magnification() const;
+    /// Sets the magnifications; a new record has 0.0 and 0.0.
     void setMagnification(const VMagnificationLimits &limits);
     /// The ways of managing output levels that the method supports.
     QList<LevelManagement> levelManagementList() const;
+    /// Sets the list, which is kept as it is: in order, duplicates included.
     void setLevelManagementList(const QList<LevelManagement> &list);
     /// The scroll ratios that the method accepts. JSON has no negative zero and no NaN: a ratio of
     /// -0.0 or NaN comes back from it as 0.0.
     QList<double> scrollRatioList() const;
+    /// Sets the list, which is kept as it is.
     void setScrollRatioList(const QList<double> &list);
     /// The resolutions that the method supports.
     QList<Imaging::VResolution> resolutionList() const;
+    /// Sets the list, which is kept as it is.
     void setResolutionList(const QList<Imaging::VResolution> &list);
 
 protected:

@@ -17,11 +17,16 @@ namespace Norvane::Kilnjet {
 class VKILNJET_EXPORT VKilnjetInfo
 {
 public:
+    /// An object without content: all that it has to say is static.
     VKilnjetInfo() = default;
+    /// There is nothing to copy.
     VKilnjetInfo(const VKilnjetInfo &) = default;
+    /// There is nothing to move.
     VKilnjetInfo(VKilnjetInfo &&) = default;
     ~VKilnjetInfo() = default;
+    /// Does nothing.
     VKilnjetInfo &operator=(const VKilnjetInfo &other);
+    /// Does nothing.
     VKilnjetInfo &operator=(VKilnjetInfo &&other) noexcept;
 
     /// The number of the build; it counts builds of one version.

@@ -20,9 +20,13 @@ class VKILNJET_EXPORT VMagnificationLimits : public VPair<double, double>,
 public:
     using Interfaces::IFormattable::toString;
 
+    /// 0.0 and 0.0.
     VMagnificationLimits() = default;
+    /// `minimum` as `first`, `maximum` as `second`.
     VMagnificationLimits(double minimum, double maximum);
+    /// A copy.
     VMagnificationLimits(const VMagnificationLimits &other);
+    /// Takes both numbers over.
     VMagnificationLimits &operator=(const VMagnificationLimits &other);
     ~VMagnificationLimits() override;
 

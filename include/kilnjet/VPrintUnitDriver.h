@@ -38,13 +38,17 @@ class VKILNJET_EXPORT VPrintUnitDriver : public Hardware::VDeviceConfig
 public:
     /// A record of the current format version, 1.1.0, with the null device id.
     VPrintUnitDriver();
+    /// The same with a device id.
     explicit VPrintUnitDriver(const QUuid &deviceId);
+    /// An independent copy, children included; metadata flagged `KillOnCopy` stays behind.
     VPrintUnitDriver(const VPrintUnitDriver &other);
+    /// Takes over everything but metadata flagged `KillOnCopy`.
     VPrintUnitDriver &operator=(const VPrintUnitDriver &other);
     ~VPrintUnitDriver() override;
 
     /// Equal fields, the channels in order, and equal bases.
     bool operator==(const VPrintUnitDriver &other) const;
+    /// The contrary of `==`.
     bool operator!=(const VPrintUnitDriver &other) const { return !(*this == other); }
 
     Interfaces::ICloneable *clone() const override;
@@ -54,12 +58,15 @@ public:
 
     /// The inks of the unit, in the caller's order, duplicates included.
     QList<Channel> channels() const;
+    /// Sets the inks, which are kept as they are; a new record has none. Changes the content id.
     void setChannels(const QList<Channel> &channels);
     /// Whether the unit allows a horizontal resolution of the user's own.
     bool customHorizontalResolution() const;
+    /// Sets customHorizontalResolution(); a new record has false.
     void setCustomHorizontalResolution(bool custom);
     /// Whether the unit allows a vertical resolution of the user's own.
     bool customVerticalResolution() const;
+    /// Sets customVerticalResolution(); a new record has false.
     void setCustomVerticalResolution(bool custom);
 
 protected:

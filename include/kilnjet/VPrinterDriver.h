@@ -60,8 +60,11 @@ class VKILNJET_EXPORT VPrinterDriver : public Hardware::VDeviceConfig
 public:
     /// A driver of the current format version, 1.2.1, with the null device id.
     VPrinterDriver();
+    /// The same with a device id.
     explicit VPrinterDriver(const QUuid &deviceId);
+    /// An independent copy, children included; metadata flagged `KillOnCopy` stays behind.
     VPrinterDriver(const VPrinterDriver &other);
+    /// Takes over everything but metadata flagged `KillOnCopy`.
     VPrinterDriver &operator=(const VPrinterDriver &other);
     ~VPrinterDriver() override;
 
@@ -69,6 +72,7 @@ public:
     /// images have: without any, it equals whatever images `other` has, though not the other way
     /// round.
     bool operator==(const VPrinterDriver &other) const;
+    /// The contrary of `==`.
     bool operator!=(const VPrinterDriver &other) const { return !(*this == other); }
 
     Interfaces::ICloneable *clone() const override;
@@ -78,30 +82,39 @@ public:
 
     /// The family of machine.
     PrinterClass printerClass() const;
+    /// Sets the family; a new driver has `Unknown`. Changes the content id.
     void setPrinterClass(const PrinterClass &printerClass);
     /// How the machine handles the faces of a tile design.
     PrinterFacesMode facesMode() const;
+    /// Sets the mode; a new driver has `None`. Changes the content id.
     void setFacesMode(const PrinterFacesMode &mode);
     /// The compression of the files sent to the machine.
     PrinterFileCompression fileCompression() const;
+    /// Sets the compression; a new driver has `None`.
     void setFileCompression(const PrinterFileCompression &compression);
     /// The protection of the files sent to the machine.
     PrinterFileProtection fileProtection() const;
+    /// Sets the protection; a new driver has `None`.
     void setFileProtection(const PrinterFileProtection &protection);
     /// The largest number of faces that the machine accepts.
     int maximumFaces() const;
+    /// Sets the number, which nothing checks; a new driver has 0. Changes the content id.
     void setMaximumFaces(int faces);
     /// The largest image that the machine accepts, in bytes.
     qint64 maximumImageBytes() const;
+    /// Sets the limit, which nothing checks; a new driver has 0.
     void setMaximumImageBytes(qint64 bytes);
     /// Whether elaboration is done online.
     bool onlineElaboration() const;
+    /// Sets onlineElaboration(); a new driver has false.
     void setOnlineElaboration(bool online);
     /// Whether linearisations are applied online.
     bool onlineLinearizations() const;
+    /// Sets onlineLinearizations(); a new driver has false.
     void setOnlineLinearizations(bool online);
     /// Whether the driver is not for production yet.
     bool experimental() const;
+    /// Sets experimental(); a new driver has false.
     void setExperimental(bool experimental);
 
     /// The icon. One from an SVG document is drawn anew at each call, at 16 to 1024 pixels. Empty

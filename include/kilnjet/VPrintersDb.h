@@ -65,23 +65,31 @@ public:
     /// Stores each valid driver under its content id; an invalid one removes the entry of that id.
     /// Always true.
     bool insert(const QList<VPrinterDriver> &drivers);
+    /// The same for one driver.
     bool insert(const VPrinterDriver &driver);
     /// Adds valid drivers that are never written, unless their content id belongs to a persistent
     /// entry. Volatile entries of earlier calls stay, but are no longer marked. True when anything
     /// changed.
     bool insertVolatile(const QList<VPrinterDriver> &drivers);
+    /// The same for one driver.
     bool insertVolatile(const VPrinterDriver &driver);
     /// As insertVolatile(), and drops the volatile entries that are not in the list.
     bool replaceVolatile(const QList<VPrinterDriver> &drivers);
+    /// The same for one driver: it becomes the only volatile entry.
     bool replaceVolatile(const VPrinterDriver &driver);
     /// Removes the entries; true when there was at least one.
     bool removes(const QList<QUuid> &ids);
+    /// Removes the entries that have the content ids of `drivers`; true when there was at least
+    /// one.
     bool removes(const QList<VPrinterDriver> &drivers);
+    /// Removes the entry; true when there was one.
     bool remove(const QUuid &id);
+    /// Removes the entry that has the content id of `driver`; true when there was one.
     bool remove(const VPrinterDriver &driver);
     /// Removes all entries; true when there was at least one.
     bool clear();
 
+    /// True when there is an entry, volatile or not, under the content id.
     bool contains(const QUuid &id) const;
     /// True when the last volatile call placed an entry under `id`, also after it was removed.
     bool isVolatile(const QUuid &id) const;
@@ -91,12 +99,16 @@ public:
     int volatileCount() const;
     /// A copy of the entry, or an empty driver when there is none.
     VPrinterDriver value(const QUuid &id);
+    /// A copy of the entry that has the content id of `driver`, or an empty driver.
     VPrinterDriver value(const VPrinterDriver &driver);
+    /// Copies of all entries, volatile ones included, in ascending order of their content ids.
     QList<VPrinterDriver> values();
+    /// The content ids of all entries, volatile ones included, ascending.
     QList<QUuid> idList();
     /// A name that no entry but that of `id` has: `name` up to its first " - ", with `suffix`
     /// appended, and " - 1" to " - 99" behind it if need be. Null when all of these are taken.
     QString createUniqueName(const QUuid &id, const QString &name, const QString &suffix);
+    /// The same for the content id and the name of `driver`.
     QString createUniqueName(const VPrinterDriver &driver, const QString &suffix);
 
     /// Copies every entry, volatile ones too, into another file, then compacts this one. The result
@@ -105,6 +117,7 @@ public:
     /// Takes the entries of another file in, replacing this database's content unless `merge`, and
     /// writes them. False, and nothing changed, when there is no such file or it cannot be read.
     bool restore(const QString &directory, const QString &fileName, bool merge);
+    /// The same from the file defaultFilename() in `directory`.
     bool restore(const QString &directory, bool merge);
     /// Drops what is no longer live from the file.
     bool purge();

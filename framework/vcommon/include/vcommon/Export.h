@@ -5,6 +5,8 @@
 
 #include <QtCore/qglobal.h>
 
+/// @def VCOMMON_EXPORT
+/// Stands before what vcommon exports; the library itself is built with VCOMMON_LIBRARY defined.
 #if defined(VCOMMON_LIBRARY)
 #define VCOMMON_EXPORT Q_DECL_EXPORT
 #else

@@ -42,6 +42,7 @@ public:
     virtual QUuid id() const = 0;
     /// The record's own identity.
     virtual QUuid deviceId() const = 0;
+    /// Sets the record's identity, which enters its content id.
     virtual void setDeviceId(const QUuid &deviceId) = 0;
     /// True when the device id is null.
     virtual bool isNull() const = 0;
@@ -51,13 +52,19 @@ public:
     virtual bool isValid() const = 0;
     /// The version of the format in which the record's data were written.
     virtual VVersion version() const = 0;
+    /// Sets the version. Who rewrites a record keeps it: it says how the content id is made.
     virtual void setVersion(const VVersion &version) = 0;
     /// When the record was made or changed, in UTC to the millisecond; invalid when unknown.
     virtual QDateTime dateTime() const = 0;
+    /// Sets the moment, which is converted to UTC; an invalid one means unknown.
     virtual void setDateTime(const QDateTime &dateTime) = 0;
+    /// The name that is shown to people; may be empty.
     virtual QString name() const = 0;
+    /// Sets the name. Nothing makes it unique.
     virtual void setName(const QString &name) = 0;
+    /// What people should know about the record; may be empty.
     virtual QString description() const = 0;
+    /// Sets the description.
     virtual void setDescription(const QString &description) = 0;
 
     /// Takes every configuration of the list over as a child, as insert(config, true) does.

@@ -13,7 +13,9 @@ namespace Norvane::Database {
 class VCOMMON_EXPORT VDBField
 {
 public:
+    /// A field that is not there.
     VDBField() = default;
+    /// A field that is there, with its value.
     explicit VDBField(const QVariant &value)
         : m_value(value)
         , m_found(true)

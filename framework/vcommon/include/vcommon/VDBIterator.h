@@ -28,10 +28,12 @@ public:
         m_database->next(m_record);
         return *this;
     }
+    /// True when both stand at the same place of the file; all ends are equal.
     bool operator==(const VDBIterator &other) const
     {
         return m_record.offset() == other.m_record.offset();
     }
+    /// The contrary of `==`.
     bool operator!=(const VDBIterator &other) const { return !(*this == other); }
 
 private:

@@ -28,8 +28,11 @@ class VDBTextPrivate;
 class VCOMMON_EXPORT VDBRecord
 {
 public:
+    /// A null record.
     VDBRecord();
+    /// A copy, which shares the bytes that were read.
     VDBRecord(const VDBRecord &other);
+    /// Becomes a copy, which shares the bytes that were read.
     VDBRecord &operator=(const VDBRecord &other);
     ~VDBRecord();
 

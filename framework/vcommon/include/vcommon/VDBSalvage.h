@@ -20,6 +20,7 @@ class VDBSalvagePrivate;
 /// A record that was found in a damaged file.
 struct VDBSalvagedRecord
 {
+    /// What speaks for the record.
     enum class Proof
     {
         Code, ///< Its code was made with the key that was given.
@@ -29,6 +30,7 @@ struct VDBSalvagedRecord
 
     QString id; ///< Its key.
     VDBRecord record; ///< Its signature counts as matching, unless the proof is None.
+    /// What speaks for the record.
     Proof proof = Proof::None;
     bool isUnfinished =
         false; ///< It stands in a batch of which nothing says that it was completed.
@@ -68,6 +70,7 @@ public:
     bool hasHeader() const;
     /// The records, in file order.
     qsizetype count() const;
+    /// The record at `index`, from 0 to count() - 1.
     VDBSalvagedRecord record(qsizetype index) const;
     /// Every stretch that could not be used, in file order; records with Proof::None are among
     /// them.

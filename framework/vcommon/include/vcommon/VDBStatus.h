@@ -31,6 +31,7 @@ enum class VDBStatus
 /// One stretch of a file that the reader could not use.
 struct VDBDamage
 {
+    /// What is wrong with the stretch.
     enum class Reason
     {
         BadSignature, ///< A record whose signature does not match its content.
@@ -45,6 +46,7 @@ struct VDBDamage
     qint64 size = 0; ///< How long it is, in bytes.
     qint64 line = 0; ///< Its line, from 1.
     QString id; ///< The key of the record, as far as it is readable.
+    /// What is wrong with it.
     Reason reason = Reason::NotALine;
 };
 

@@ -46,6 +46,7 @@ public:
             2, ///< Each record is signed. Always so; kept in the header for other programs.
     };
 
+    /// A store that is not open yet, without a key.
     VDBText();
     Q_DISABLE_COPY_MOVE(VDBText)
     ~VDBText() override;
@@ -88,6 +89,7 @@ public:
 
     /// How long open() and create() wait for another process; 10 seconds at first.
     std::chrono::milliseconds lockTimeout() const;
+    /// Sets how long the next open() or create() waits; 0 does not wait.
     void setLockTimeout(std::chrono::milliseconds timeout);
     /// Who hears of damage during the next open() or reindex() that reads the file; may be empty. A
     /// store with a reporter always reads the whole file.

@@ -51,15 +51,20 @@ class VCOMMON_EXPORT VDeviceConfig : public Interfaces::IVDeviceConfig
 public:
     using Norvane::Interfaces::IFormattable::toString;
 
+    /// A record of version 0.0.0 with the null device id.
     VDeviceConfig();
+    /// A record with these fields and without children.
     VDeviceConfig(const QUuid &deviceId, const VVersion &version, const QString &name,
                   const QString &description);
+    /// An independent copy, children included; metadata flagged `KillOnCopy` stays behind.
     VDeviceConfig(const VDeviceConfig &other);
+    /// Takes over everything but metadata flagged `KillOnCopy`.
     VDeviceConfig &operator=(const VDeviceConfig &other);
     ~VDeviceConfig() override;
 
     /// Equal device id, version, name, description, date-time and children, in order.
     bool operator==(const VDeviceConfig &other) const;
+    /// The contrary of `==`.
     bool operator!=(const VDeviceConfig &other) const { return !(*this == other); }
 
     QUuid deviceId() const override;
@@ -75,6 +80,7 @@ public:
     void setName(const QString &name) override;
     QString description() const override;
     void setDescription(const QString &description) override;
+    /// As insert(config, true), for each of them.
     void insert(const QList<Interfaces::IVDeviceConfig *> &configs) override;
     void insert(Interfaces::IVDeviceConfig *config, bool takeOwnership) override;
     bool remove(const QUuid &id, bool deep) override;

@@ -5,6 +5,8 @@
 
 #include <QtCore/qglobal.h>
 
+/// @def VCORE_EXPORT
+/// Stands before what vcore exports; the library itself is built with VCORE_LIBRARY defined.
 #if defined(VCORE_LIBRARY)
 #define VCORE_EXPORT Q_DECL_EXPORT
 #else

@@ -24,8 +24,11 @@ namespace Norvane::Interfaces {
 class VCORE_EXPORT IMetadatable
 {
 public:
+    /// An object without entries.
     IMetadatable() = default;
+    /// An object without entries: none is copied.
     IMetadatable(const IMetadatable &) { }
+    /// Keeps this object's entries and copies none.
     IMetadatable &operator=(const IMetadatable &) { return *this; }
     virtual ~IMetadatable();
 

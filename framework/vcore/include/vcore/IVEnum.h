@@ -25,6 +25,7 @@ public:
 
     /// The numbers and names. Only a run-time loader may change them, and only inside applyTo().
     const VEnumNames &names() const { return m_names; }
+    /// The same, to be changed by a run-time loader.
     VEnumNames &names() { return m_names; }
 
 private:

@@ -16,6 +16,7 @@ namespace Norvane {
 class VBytes
 {
 public:
+    /// No bytes.
     VBytes() = default;
     /// The whole of `buffer`, which must own its bytes (unlike QByteArray::fromRawData()).
     VBytes(const QByteArray &buffer)
@@ -30,7 +31,9 @@ public:
 
     /// The bytes; valid as long as this object or a copy of it.
     QByteArrayView view() const { return m_view; }
+    /// How many bytes there are.
     qsizetype size() const { return m_view.size(); }
+    /// True when there are none.
     bool isEmpty() const { return m_view.isEmpty(); }
 
     /// `part`, which lies within view(), sharing the same buffer.

@@ -17,6 +17,7 @@ class VCORE_EXPORT VConvert
 public:
     /// The number as `locale` writes integers.
     static QString toString(int value, const QLocale &locale);
+    /// The same for 64 bits.
     static QString toString(qint64 value, const QLocale &locale);
 
     /// The number as `locale` writes it in `format`: one of QLocale's letters (e, E, f, F, g, G)

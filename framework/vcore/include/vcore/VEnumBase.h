@@ -18,7 +18,9 @@ namespace Norvane {
 template<typename E>
 struct VEnumEntry
 {
+    /// The value.
     E value;
+    /// Its name; the first one of a value in the table is the one that is written.
     QLatin1StringView name;
 };
 
@@ -29,8 +31,10 @@ template<typename E, typename U = std::underlying_type_t<E>>
 class VEnumBase : public IVEnum
 {
 public:
+    /// The enumeration.
     using Enum = E;
 
+    /// False: a value is one of those named.
     bool isFlags() const override { return false; }
 
     /// The name of `value`; without one, the number as `locale` writes it.
@@ -69,6 +73,7 @@ public:
     }
     /// The value that a JSON string names, as above; any other JSON value is the value 0.
     E valueOf(const QJsonValue &value) const { return valueOf(value.toString()); }
+    /// The same for a value in JSON text.
     E valueOf(const VJsonTextValue &value) const { return valueOf(value.utf8()); }
 
 protected:
@@ -85,6 +90,7 @@ template<typename E, typename U = std::underlying_type_t<E>>
 class VEnumBaseFlags : public VEnumBase<E, U>
 {
 public:
+    /// True: values are combinations of those named.
     bool isFlags() const override { return true; }
 
     /// As VEnumBase; a combination without a name is written as the names that make it up exactly.

@@ -79,20 +79,31 @@ private:
 class VCORE_EXPORT VJsonTextValue
 {
 public:
+    /// An undefined value.
     VJsonTextValue() = default;
 
+    /// True when there is no value.
     bool isUndefined() const { return m_text == nullptr; }
+    /// True when it is a string.
     bool isString() const { return is(VJsonText::Kind::String); }
+    /// True when it is an object.
     bool isObject() const { return is(VJsonText::Kind::Object); }
+    /// True when it is an array.
     bool isArray() const { return is(VJsonText::Kind::Array); }
 
     /// The bytes of a string; empty for any other value.
     QUtf8StringView utf8() const;
+    /// The text of a string; empty for any other value.
     QString toString() const;
+    /// The boolean; `fallback` for any other value.
     bool toBool(bool fallback = false) const;
+    /// The number, if it is whole and fits; else `fallback`.
     int toInt(int fallback = 0) const;
+    /// The number; `fallback` for any other value.
     double toDouble(double fallback = 0.0) const;
+    /// The object; an empty one for any other value.
     VJsonTextObject toObject() const;
+    /// The array; an empty one for any other value.
     VJsonTextArray toArray() const;
     /// The same as a tree of values.
     QJsonValue toJsonValue() const;
@@ -117,6 +128,7 @@ private:
 class VCORE_EXPORT VJsonTextObject
 {
 public:
+    /// An empty object of no text.
     VJsonTextObject() = default;
 
     /// The value of `key`; undefined when there is none.
@@ -140,15 +152,19 @@ private:
 class VCORE_EXPORT VJsonTextArray
 {
 public:
+    /// A walk over the elements, forwards.
     class Iterator
     {
     public:
+        /// The current element.
         VJsonTextValue operator*() const { return m_value; }
+        /// Goes on to the next element.
         Iterator &operator++()
         {
             m_value.m_token = m_value.token().next;
             return *this;
         }
+        /// True when both stand on the same element.
         bool operator==(const Iterator &other) const
         {
             return m_value.m_token == other.m_value.m_token;
@@ -162,10 +178,14 @@ public:
         VJsonTextValue m_value;
     };
 
+    /// An empty array of no text.
     VJsonTextArray() = default;
 
+    /// The first element.
     Iterator begin() const;
+    /// Behind the last element.
     Iterator end() const;
+    /// True when there is no element.
     bool isEmpty() const { return begin() == end(); }
     /// The same as a tree of values.
     QJsonArray toJsonArray() const;
@@ -184,6 +204,7 @@ inline QUuid uuidFromJson(const QJsonValue &value)
 {
     return QUuid::fromString(value.toString());
 }
+/// The same for a value in JSON text.
 inline QUuid uuidFromJson(const VJsonTextValue &value)
 {
     return QUuid::fromString(value.utf8());

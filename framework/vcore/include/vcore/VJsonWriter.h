@@ -27,7 +27,8 @@ public:
     /// The text so far.
     QByteArray text() const { return QByteArray::fromStdString(m_text); }
 
-    /// Writes an object or an array whose content `fill` writes to the writer that it is given.
+    /// Writes an object, as an element of an array or as the whole text; `fill` writes its members
+    /// to the writer that it is given.
     template<typename Fill>
     void object(Fill fill)
     {
@@ -35,12 +36,14 @@ public:
         fill(*this);
         close('}');
     }
+    /// Writes the member `key`, an object; `fill` as above.
     template<typename Fill>
     void object(QLatin1StringView key, Fill fill)
     {
         writeKey(key);
         object(fill);
     }
+    /// Writes the member `key`, an array; `fill` writes its elements.
     template<typename Fill>
     void array(QLatin1StringView key, Fill fill)
     {
@@ -56,15 +59,21 @@ public:
         writeKey(key);
         append(value);
     }
-    /// Writes an element of an array.
+    /// Writes an element of an array: a string.
     void append(const QString &value);
+    /// A boolean.
     void append(bool value);
+    /// A number.
     void append(int value);
+    /// A number; `null` for one that JSON has no form for (NaN, infinities).
     void append(double value);
+    /// A whole array.
     void append(const QJsonArray &value);
+    /// A whole object.
     void append(const QJsonObject &value);
     /// Writes a string of plain ASCII characters that need no escape.
     void appendPlain(const QByteArray &value);
+    /// The same as the member `key` of an object.
     void insertPlain(QLatin1StringView key, const QByteArray &value)
     {
         writeKey(key);
@@ -100,27 +109,34 @@ private:
 class VJsonTreeWriter
 {
 public:
-    /// What was written with a key, and what without one.
+    /// What was written with a key.
     const QJsonObject &members() const { return m_members; }
+    /// What was written without one.
     const QJsonArray &elements() const { return m_elements; }
 
+    /// As VJsonTextWriter::object().
     template<typename Fill>
     void object(Fill fill)
     {
         m_elements.append(filled(fill).m_members);
     }
+    /// As VJsonTextWriter::object().
     template<typename Fill>
     void object(QLatin1StringView key, Fill fill)
     {
         m_members.insert(key, filled(fill).m_members);
     }
+    /// As VJsonTextWriter::array().
     template<typename Fill>
     void array(QLatin1StringView key, Fill fill)
     {
         m_members.insert(key, filled(fill).m_elements);
     }
+    /// As VJsonTextWriter::insert().
     void insert(QLatin1StringView key, const QJsonValue &value) { m_members.insert(key, value); }
+    /// As VJsonTextWriter::append().
     void append(const QJsonValue &value) { m_elements.append(value); }
+    /// As VJsonTextWriter::insertPlain().
     void insertPlain(QLatin1StringView key, const QByteArray &value)
     {
         m_members.insert(key, QString::fromLatin1(value));

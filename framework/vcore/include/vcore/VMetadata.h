@@ -11,6 +11,7 @@ namespace Norvane {
 class VCORE_EXPORT VMetadata final : public Interfaces::IMetadata
 {
 public:
+    /// The entry `key` with a value, and flags that say when it is to be dropped.
     explicit VMetadata(quint64 key = 0, const QJsonValue &value = QJsonValue(),
                        MetadataFlags flags = MetadataFlags::None);
 

@@ -14,13 +14,16 @@ template<typename First, typename Second>
 class VPair : public std::pair<First, Second>, public Interfaces::ICloneable
 {
 public:
+    /// Both values as their types make them by default.
     VPair()
         : std::pair<First, Second>()
     { }
+    /// A pair of these values.
     VPair(const First &firstValue, const Second &secondValue)
         : std::pair<First, Second>(firstValue, secondValue)
     { }
 
+    /// A new copy of both values; the caller owns it.
     Interfaces::ICloneable *clone() const override { return new VPair(*this); }
 };
 

@@ -16,14 +16,17 @@ template<typename T>
 class VPointer final : public Interfaces::IValidity
 {
 public:
+    /// An invalid pointer.
     VPointer() = default;
     /// Takes over `pointer`; null gives an invalid pointer.
     explicit VPointer(T *pointer)
         : m_pointer(pointer)
     { }
+    /// Takes over what `other` holds, which is invalid from now on.
     VPointer(VPointer &&other) noexcept
         : m_pointer(other.release())
     { }
+    /// Deletes what this holds and takes over what `other` holds.
     VPointer &operator=(VPointer &&other) noexcept
     {
         reset(other.release());
@@ -33,10 +36,14 @@ public:
     ~VPointer() override { delete m_pointer; }
 
     bool isValid() const override { return m_pointer != nullptr; }
+    /// The same as isValid().
     explicit operator bool() const { return m_pointer != nullptr; }
 
+    /// The object, which stays this pointer's; null when there is none.
     T *get() const { return m_pointer; }
+    /// The object; there must be one.
     T *operator->() const { return m_pointer; }
+    /// The object; there must be one.
     T &operator*() const { return *m_pointer; }
 
     /// Gives the object up to the caller, who owns it from now on.

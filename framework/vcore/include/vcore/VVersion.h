@@ -25,8 +25,11 @@ public:
                    | quint32(patchNumber & 0xFF))
     { }
 
+    /// The first number.
     constexpr int majorNumber() const { return int((m_packed >> 16) & 0xFF); }
+    /// The second number.
     constexpr int minorNumber() const { return int((m_packed >> 8) & 0xFF); }
+    /// The third number.
     constexpr int patchNumber() const { return int(m_packed & 0xFF); }
     /// The packed form, 0x00MMmmpp.
     constexpr quint32 packed() const { return m_packed; }
@@ -36,7 +39,9 @@ public:
     /// Reads what toString() writes; anything else gives 0.0.0 and `*ok` false. `ok` may be null.
     static VVersion fromString(const QString &text, bool *ok = nullptr);
 
+    /// True when all three numbers are equal.
     friend constexpr bool operator==(VVersion, VVersion) = default;
+    /// Compares the first numbers that differ.
     friend constexpr auto operator<=>(VVersion, VVersion) = default;
 
 private:

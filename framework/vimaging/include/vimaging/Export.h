@@ -5,6 +5,8 @@
 
 #include <QtCore/qglobal.h>
 
+/// @def VIMAGING_EXPORT
+/// Stands before what vimaging exports; the library itself is built with VIMAGING_LIBRARY defined.
 #if defined(VIMAGING_LIBRARY)
 #define VIMAGING_EXPORT Q_DECL_EXPORT
 #else
