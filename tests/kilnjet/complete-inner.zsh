@@ -6,7 +6,8 @@
 PS1=
 unsetopt beep prompt_cr prompt_sp
 fpath=(${COMPLETION:h} $fpath)
-autoload -Uz compinit && compinit -u -D
+# What it finds is kept in the home folder: looking through all functions takes a second.
+autoload -Uz compinit && compinit -C -d ~/.zcompdump
 
 compadd() {
     local -a hits

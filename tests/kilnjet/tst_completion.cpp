@@ -62,6 +62,7 @@ void tst_completion::addShells()
 
 void tst_completion::initTestCase()
 {
+    QVERIFY(QDir(m_folder.path(u"."_s)).mkdir(u"home"_s));
     const QJsonArray records{printerJson(u"Kiln line 4"_s), printerJson(u"Kiln line 5"_s),
                              printerJson(u"Proof"_s)};
     VERIFY_CODE(m_folder.run({u"import"_s, m_folder.write(u"machines.json"_s, records)}), 0);
