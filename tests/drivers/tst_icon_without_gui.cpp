@@ -5,6 +5,7 @@
 // copied, compared, validated and written all the same, on any thread.
 
 #include "support/Drivers.h"
+#include "support/IcoFiles.h"
 #include "support/Icons.h"
 #include "support/Threads.h"
 
@@ -80,6 +81,8 @@ private Q_SLOTS:
     void vectorImages_areKeptAsTheyCame();
     void imageFile_isRead();
     void imageFile_ofSeveralSizesIsReadWhole();
+    void imageFile_givesTheDeepestImageOfASize_data();
+    void imageFile_givesTheDeepestImageOfASize();
     void imageFile_thatIsNoneGivesNoIcon();
     void svgFile_isKept();
     void iconOfTheHost_isNotWritten();
@@ -198,6 +201,30 @@ void tst_icon_without_gui::imageFile_ofSeveralSizesIsReadWhole()
     for (const QByteArray &bytes : iconBytes(innerOf(driver)))
         sizes.append(decodedPng(bytes).size());
     QCOMPARE(sizes, (QList{QSize(16, 16), QSize(32, 32)}));
+}
+
+void tst_icon_without_gui::imageFile_givesTheDeepestImageOfASize_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QColor>("colour");
+    QTest::newRow("the deeper one comes last") << icoWith({1, 32}) << QColor(Qt::red);
+    QTest::newRow("the deeper one comes first") << icoWith({32, 1}) << QColor(Qt::red);
+    QTest::newRow("the deeper one is cut off")
+        << icoWith({1, 32}).chopped(1000) << QColor(Qt::black);
+}
+
+void tst_icon_without_gui::imageFile_givesTheDeepestImageOfASize()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QColor, colour);
+    const QTemporaryDir dir;
+    VPrinterDriver driver;
+    driver.setIcon(written(dir, u"printer.ico"_s, content));
+    const QList<QByteArray> images = iconBytes(innerOf(driver));
+    QCOMPARE(images.size(), 1);
+    const QImage image = QImage::fromData(images.first(), "png");
+    QCOMPARE(image.size(), QSize(16, 16));
+    QCOMPARE(image.pixelColor(8, 8), colour);
 }
 
 void tst_icon_without_gui::imageFile_thatIsNoneGivesNoIcon()
