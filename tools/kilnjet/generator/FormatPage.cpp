@@ -4,6 +4,7 @@
 // A page of the manual from a text in Markdown: headings, paragraphs, lists, and blocks of code.
 
 #include "Roff.h"
+#include "Text.h"
 #include "Writer.h"
 
 #include <QtCore/QRegularExpression>
@@ -42,14 +43,11 @@ QString paragraphText(const QString &text)
     return result + escaped(text.sliced(done));
 }
 
-/// The lines of a paragraph, broken where the source breaks them.
 QString paragraph(const QStringList &lines)
 {
-    // A span may go over a line end, which stands as a character that no text has.
-    constexpr QChar kBreak(0xE000);
-    QString text = paragraphText(lines.join(kBreak)).replace(escaped(kBreak), u"\n"_s);
+    constexpr int kWidth = 78;
     QString result;
-    for (const QString &part : text.split(u'\n'))
+    for (const QString &part : wrapped(paragraphText(lines.join(u' ')), kWidth))
         result += line(part);
     return result;
 }
