@@ -93,11 +93,13 @@ void expectUse([[maybe_unused]] char *memory, [[maybe_unused]] std::int64_t size
 {
 #if defined(MADV_HUGEPAGE)
     // Usual pages are asked for one by one, which costs as much as filling them.
-    const auto page = std::uintptr_t(::sysconf(_SC_PAGESIZE));
-    const std::uintptr_t begin = (std::uintptr_t(memory) + page - 1) / page * page;
-    const std::uintptr_t end = (std::uintptr_t(memory) + std::uintptr_t(size)) / page * page;
+    const std::int64_t page = ::sysconf(_SC_PAGESIZE);
+    // Whole pages only, as places in the memory given.
+    const auto offset = std::int64_t(std::uintptr_t(memory) % std::uintptr_t(page));
+    const std::int64_t begin = (page - offset) % page;
+    const std::int64_t end = (offset + size) / page * page - offset;
     if (begin < end)
-        ::madvise(reinterpret_cast<void *>(begin), end - begin, MADV_HUGEPAGE);
+        ::madvise(memory + begin, std::size_t(end - begin), MADV_HUGEPAGE);
 #endif
 }
 
