@@ -6,6 +6,7 @@
 #include "VDBLineCheck.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -104,7 +105,7 @@ QByteArrayView withoutFilling(QByteArrayView bytes)
 ///
 /// The lines of a batch wait in m_pending for their commit line. A commit line that does not match
 /// them moves them to m_held: what follows tells a batch that was damaged later (a seal, or a
-/// further batch) from one that was never completed (a void mark, or the end of the file).
+/// further complete batch) from one that was never completed (a void mark, or the end of the file).
 class Scanner
 {
 public:
@@ -377,10 +378,12 @@ void Scanner::readCommit(QByteArrayView payload, qsizetype size)
 }
 
 /// Puts the batch aside until what follows decides about it.
+///
+/// A commit line that does not match decides nothing about the batch before it: it may be left of a
+/// commit that failed and was taken back, should a power cut bring that to light again.
 void Scanner::hold()
 {
-    apply(m_held); // A further batch follows it, so it was complete once.
-    m_held = std::move(m_pending);
+    std::move(m_pending.begin(), m_pending.end(), std::back_inserter(m_held));
     m_pending.clear();
 }
 
