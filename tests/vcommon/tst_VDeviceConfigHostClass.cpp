@@ -128,8 +128,10 @@ void tst_VDeviceConfigHostClass::copies_areEqualAndIndependent()
 void tst_VDeviceConfigHostClass::copiesOfCopies_areNeverShared()
 {
     const Config parent = family();
+    // NOLINTBEGIN(performance-unnecessary-copy-initialization): the copies are what is tested.
     const Config copy = parent;
     const Config another = copy;
+    // NOLINTEND(performance-unnecessary-copy-initialization)
     const IVDeviceConfig *const one = copy.values(QUuid()).first();
     const IVDeviceConfig *const two = another.values(QUuid()).first();
     QVERIFY(one != two);
