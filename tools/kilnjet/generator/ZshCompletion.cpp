@@ -26,7 +26,7 @@ QString action(const Words &words)
     }
 }
 
-/// Text in a specification, in single quotes.
+/// Text in an argument of zsh's _arguments, in single quotes.
 QString specified(QString text)
 {
     for (const QChar c : {u'\\', u'[', u']', u':'})
