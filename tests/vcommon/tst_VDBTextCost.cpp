@@ -118,8 +118,8 @@ void tst_VDBTextCost::commit_writesOnceAndNoMoreThanItsRecords()
             commitTo(store, &device, count);
             QCOMPARE(device.writes(), 2); // The batch, and its seal.
             QCOMPARE(device.calls(FaultyDevice::Sync), syncs + 1);
-            QVERIFY(device.written() > count * 1000);
-            QVERIFY(device.written() < 200 + count * 1100);
+            QVERIFY(device.written() > qint64(count) * 1000);
+            QVERIFY(device.written() < 200 + qint64(count) * 1100);
         }
     }
 }
