@@ -28,6 +28,8 @@ private Q_SLOTS:
     void damageThatLosesNothing_isAFinding();
     void damage_isDamage_data();
     void damage_isDamage();
+    void theWayOut_isSaidOfDamageAlone_data();
+    void theWayOut_isSaidOfDamageAlone();
     void whatIsLeftOut_isWhatTheLibraryLeavesOut();
     void theFile_isNamedByAnOperandToo();
     void namesInIds_areEscaped();
@@ -204,6 +206,51 @@ void tst_verify::damage_isDamage()
     VERIFY_CODE(list, 0);
     QCOMPARE(list.array().size(), 3);
     QVERIFY2(list.messages().contains(u"parts of the file are damaged"_s), list.err.constData());
+}
+
+void tst_verify::theWayOut_isSaidOfDamageAlone_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<bool>("isSaid");
+    init();
+    const QByteArray sound = bytes();
+    const auto with = [&sound](const char *before, const char *after) {
+        return QByteArray(sound).replace(before, after);
+    };
+    QVERIFY(Support::makeFile(m_folder->path(u"k.tdb"_s), Support::printers({u"A"_s}), u"other"_s));
+    QVERIFY(Support::writeRaw(path(), Support::idOfPrinterJson(u"D"_s), QVariant(u"{}"_s)));
+
+    QTest::newRow("a damaged record") << with("\"name\":\"B\"", "\"name\":\"X\"") << 4 << true;
+    QTest::newRow("garbage between lines") << with("\n+", "\ngarbage\n+") << 4 << true;
+    QTest::newRow("both headers damaged") << with("format=2", "format=3") << 4 << true;
+    QTest::newRow("something else") << QByteArray("[1, 2, 3]\n") << 4 << true;
+    QTest::newRow("a newer format") << with("vdbtext\t1\t", "vdbtext\t2\t") << 4 << false;
+    QTest::newRow("no key") << sound << 5 << false;
+    QTest::newRow("another key") << m_folder->read(u"k.tdb"_s) << 5 << false;
+    QTest::newRow("a batch that was never completed") << sound + "+\t10\t" << 1 << false;
+    QTest::newRow("a record that is no driver") << bytes() << 1 << false;
+    QTest::newRow("nothing") << sound << 0 << false;
+}
+
+void tst_verify::theWayOut_isSaidOfDamageAlone()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, code);
+    QFETCH(bool, isSaid);
+    m_folder->write(u"a.tdb"_s, bytes);
+    QStringList arguments{u"verify"_s, u"a.tdb"_s};
+    if (code == 5)
+        arguments.append({u"--key-file"_s, m_folder->write(u"key"_s, QByteArray("key"))});
+    const ToolRun text = m_folder->run(arguments);
+    VERIFY_CODE(text, code);
+    QCOMPARE(text.messages().count(u"'kilnjet recover a.tdb NEW'"_s), isSaid ? 1 : 0);
+    QCOMPARE(text.messages().count(u"'kilnjet --db NEW restore BACKUP'"_s), isSaid ? 1 : 0);
+    QVERIFY2(text.err.count('\n') <= 1, text.err.constData());
+    const ToolRun json = m_folder->run(arguments + QStringList{u"--json"_s});
+    VERIFY_CODE(json, code);
+    QCOMPARE(json.messages().contains(u"'kilnjet recover a.tdb NEW'"_s), isSaid);
+    QVERIFY(!json.messages().contains(u"kilnjet: "_s));
 }
 
 // The rules stand in the library and here; they must agree.

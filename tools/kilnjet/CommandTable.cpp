@@ -294,7 +294,8 @@ Command verifyCommand()
                        "to see, with "
                        "its line, its id and the reason, and every stretch of bytes that is "
                        "damaged. Nothing is "
-                       "repaired: all other records are sound and can be exported.\n"
+                       "repaired: all other records are sound and can be exported, and recover "
+                       "carries them into a new file.\n"
                        "A batch that was never completed, as a crash leaves it, and odd line ends "
                        "lose nothing "
                        "that was stored; they are reported and count as findings."_L1,

@@ -167,6 +167,12 @@ bool isDamaged(const StoreSurvey &survey)
                        [](const VDBDamage &part) { return !isHarmless(part.reason); });
 }
 
+QString wayOutOfDamage(const QString &path)
+{
+    return u"'kilnjet recover %1 NEW' carries what is readable into a new file, "
+           "'kilnjet --db NEW restore BACKUP' makes one from a backup"_s.arg(path);
+}
+
 StoreSurvey surveyStore(const StoreSettings &settings, Access access)
 {
     QFile file(settings.path);
@@ -193,13 +199,12 @@ Failure storeFailure(const StoreSurvey &survey, const QString &path)
     case VDBStatus::NotADatabase:
         failure.code = ExitCode::Damaged;
         failure.why = u"the file is no printers database"_s;
-        failure.hint = u"it was left as it is"_s;
+        failure.hint = u"it was left as it is; if it was one: "_s + wayOutOfDamage(path);
         break;
     case VDBStatus::DamagedHeader:
         failure.code = ExitCode::Damaged;
         failure.why = u"both copies of its header are damaged"_s;
-        failure.hint =
-            u"'kilnjet recover %1 NEW' carries what is readable into a new file"_s.arg(path);
+        failure.hint = wayOutOfDamage(path);
         break;
     case VDBStatus::NewerFormat:
         failure.code = ExitCode::Damaged;

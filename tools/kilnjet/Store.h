@@ -49,6 +49,9 @@ bool isHarmless(Database::VDBDamage::Reason reason);
 /// True when a part of the file is damaged in another way.
 bool isDamaged(const StoreSurvey &survey);
 
+/// What people can do about a damaged file, as a hint. A key that does not fit is no damage.
+QString wayOutOfDamage(const QString &path);
+
 enum class Access
 {
     Read,

@@ -70,10 +70,8 @@ QString toText(const Verdict &verdict)
 
 ExitCode codeOf(const Verdict &verdict)
 {
-    for (const VDBDamage &part : verdict.survey.damage) {
-        if (!isHarmless(part.reason))
-            return ExitCode::Damaged;
-    }
+    if (isDamaged(verdict.survey))
+        return ExitCode::Damaged;
     const bool clean = verdict.leftOut.isEmpty() && verdict.survey.damage.isEmpty();
     return clean ? ExitCode::Done : ExitCode::Finding;
 }
@@ -107,6 +105,10 @@ ExitCode runVerify(const Invocation &invocation, Console &console)
         console.write(toJsonObject(verdict));
     else
         console.write(toText(verdict));
+    if (isDamaged(verdict.survey)) {
+        console.warn(settings.path, u"parts of the file are damaged"_s,
+                     wayOutOfDamage(settings.path));
+    }
     return codeOf(verdict);
 }
 
