@@ -22,6 +22,7 @@ private Q_SLOTS:
     void thePages_areSound_data();
     void thePages_areSound();
     void theFormatPage_hasTheWholeText();
+    void thePages_sayTheDayThatTheBuildNames();
 };
 
 namespace {
@@ -113,6 +114,25 @@ void tst_manual::theFormatPage_hasTheWholeText()
         QVERIFY2(page.contains(one, Qt::CaseInsensitive), qPrintable(one));
     }
     QVERIFY(words > 500);
+}
+
+// And no other: the same sources make the same pages on any day.
+void tst_manual::thePages_sayTheDayThatTheBuildNames()
+{
+    const Support::ToolFolder folder;
+    const QStringList arguments{folder.path(u"."_s), QStringLiteral(DOCS "/file-format.md"),
+                                u"2001-02-03"_s};
+    QCOMPARE(QProcess::execute(QStringLiteral(GENERATOR), arguments), 0);
+    for (const int number : {1, 5}) {
+        for (const QString &page : QDir(section(number)).entryList(QDir::Files)) {
+            QByteArray bytes = folder.read(u"man/man%1/%2"_s.arg(QString::number(number), page));
+            const QByteArray head = bytes.first(bytes.indexOf('\n'));
+            QVERIFY2(head.contains(" 2001-02-03 \"kilnjet "), head.constData());
+            QFile built(section(number) + page);
+            QVERIFY(built.open(QIODevice::ReadOnly));
+            QCOMPARE(bytes.replace("2001-02-03", BUILD_DATE), built.readAll());
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_manual)

@@ -90,9 +90,9 @@ QString takeBlock(QStringList &lines)
 } // namespace
 
 QString formatPage(const QString &name, const QString &summary, const QString &markdown,
-                   const QString &version)
+                   const Edition &edition)
 {
-    QString text = heading(name, u"5"_s, version, u"File Formats"_s) + nameSection(name, summary)
+    QString text = heading(name, u"5"_s, edition, u"File Formats"_s) + nameSection(name, summary)
         + u".SH DESCRIPTION\n"_s;
     QStringList lines;
     for (const QString &one : markdown.split(u'\n')) {

@@ -66,9 +66,9 @@ QString seeAlso(const QStringList &commands)
     return u".SH SEE ALSO\n"_s + pages.join(u",\n"_s) + u'\n';
 }
 
-QString toolPage(const QString &version)
+QString toolPage(const Edition &edition)
 {
-    QString text = heading(u"kilnjet"_s, u"1"_s, version, u"User Commands"_s)
+    QString text = heading(u"kilnjet"_s, u"1"_s, edition, u"User Commands"_s)
         + nameSection(u"kilnjet"_s, u"keep the catalogue of printer drivers"_s)
         + u".SH SYNOPSIS\n.B kilnjet\n[\\fIOPTION\\fR...] \\fICOMMAND\\fR [\\fIOPERAND\\fR...]\n"_s
         + u".SH DESCRIPTION\n"_s
@@ -101,14 +101,14 @@ QString toolPage(const QString &version)
 
 } // namespace
 
-QString manPage(const Command *command, const QString &version)
+QString manPage(const Command *command, const Edition &edition)
 {
     if (command == nullptr)
-        return toolPage(version);
+        return toolPage(edition);
     const QString name = u"kilnjet-"_s + command->name;
     QString summary = command->summary;
     summary[0] = summary.at(0).toLower();
-    QString text = heading(name, u"1"_s, version, u"User Commands"_s) + nameSection(name, summary);
+    QString text = heading(name, u"1"_s, edition, u"User Commands"_s) + nameSection(name, summary);
     text += u".SH SYNOPSIS\n.B kilnjet\n[\\fIOPTION\\fR...] "_s + bold(command->name);
     for (const Operand &operand : command->operands)
         text += u' ' + operandTerm(operand);

@@ -66,13 +66,11 @@ QString italic(const QString &text)
     return u"\\fI"_s + escaped(text, true) + u"\\fR"_s;
 }
 
-QString heading(const QString &name, const QString &section, const QString &version,
+QString heading(const QString &name, const QString &section, const Edition &edition,
                 const QString &book)
 {
-    // Of this version of the pages, whenever they are made: the same sources make the same pages.
-    constexpr auto kDate = "2026-11-21"_L1;
     return u".TH %1 %2 %3 \"kilnjet %4\" \"%5\"\n"_s.arg(escaped(name.toUpper(), true), section,
-                                                         kDate, version, book);
+                                                         edition.date, edition.version, book);
 }
 
 QString nameSection(const QString &name, const QString &summary)

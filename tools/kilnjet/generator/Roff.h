@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Writer.h"
+
 #include <QtCore/QString>
 
 // The pieces of a page in the language of man(7).
@@ -18,7 +20,7 @@ QString filled(const QString &text);
 QString bold(const QString &text);
 QString italic(const QString &text);
 /// The beginning of a page.
-QString heading(const QString &name, const QString &section, const QString &version,
+QString heading(const QString &name, const QString &section, const Edition &edition,
                 const QString &book);
 QString nameSection(const QString &name, const QString &summary);
 

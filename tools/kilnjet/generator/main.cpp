@@ -65,18 +65,18 @@ bool write(const QString &path, const QString &text)
     return false;
 }
 
-bool writePages(const QString &folder, const QString &format, const QString &version)
+bool writePages(const QString &folder, const QString &format, const Tool::Edition &edition)
 {
     const QString section1 = folder + u"/man1/"_s;
-    bool ok = write(section1 + u"kilnjet.1"_s, Tool::manPage(nullptr, version));
+    bool ok = write(section1 + u"kilnjet.1"_s, Tool::manPage(nullptr, edition));
     for (const Tool::Command &command : Tool::commandTable())
-        ok = write(section1 + u"kilnjet-%1.1"_s.arg(command.name), Tool::manPage(&command, version))
+        ok = write(section1 + u"kilnjet-%1.1"_s.arg(command.name), Tool::manPage(&command, edition))
             && ok;
     QFile file(format);
     if (!file.open(QIODevice::ReadOnly))
         return false;
     const QString page = Tool::formatPage(u"kilnjet-format"_s, u"the database files of kilnjet"_s,
-                                          QString::fromUtf8(file.readAll()), version);
+                                          QString::fromUtf8(file.readAll()), edition);
     return write(folder + u"/man5/kilnjet-format.5"_s, page) && ok;
 }
 
@@ -86,13 +86,13 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3) {
-        std::fputs("usage: kilnjet_generator FOLDER FORMAT.md\n", stderr);
+    if (arguments.size() != 4) {
+        std::fputs("usage: kilnjet_generator FOLDER FORMAT.md DATE\n", stderr);
         return 2;
     }
     const QString folder = arguments.at(1);
-    const QString version = VKilnjetInfo::version().toString();
-    bool ok = writePages(folder + u"/man"_s, arguments.at(2), version);
+    const Tool::Edition edition{VKilnjetInfo::version().toString(), arguments.at(3)};
+    bool ok = writePages(folder + u"/man"_s, arguments.at(2), edition);
     ok = write(folder + u"/bash/kilnjet"_s, Tool::bashCompletion()) && ok;
     ok = write(folder + u"/zsh/_kilnjet"_s, Tool::zshCompletion()) && ok;
     ok = write(folder + u"/fish/kilnjet.fish"_s, Tool::fishCompletion()) && ok;
