@@ -7,6 +7,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void init_createsAMissingFileAndSaysSoBeforeReturning();
     void init_loadsAnExistingFile();
     void init_withoutADeviceFails();
+    void aFileWithoutAName_failsInSilence();
     void init_ofAForeignFileFailsAndLeavesIt();
     void init_afterAFailureRecovers();
     void init_thatFailsKeepsTheContent();
@@ -133,6 +135,28 @@ void tst_lifecycle::init_withoutADeviceFails()
     QCOMPARE(commits.size(), 0);
     QCOMPARE(errors.size(), 1);
     QVERIFY(database.isDirty());
+}
+
+// Every access reports that it has failed; Qt, which would print that, is not asked.
+void tst_lifecycle::aFileWithoutAName_failsInSilence()
+{
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
+    VPrintersDb database(QString(), u"key"_s);
+    QSignalSpy errors(&database, &VPrintersDb::error);
+    database.init(false);
+    QVERIFY(database.isNull());
+    QCOMPARE(errors.size(), 1);
+    QVERIFY(database.insert(printer(u"A"_s)));
+    database.commit();
+    QCOMPARE(errors.size(), 2);
+    QVERIFY(database.isDirty());
+    QVERIFY(!database.purge());
+    QVERIFY(!database.reindex());
+    database.init(true);
+    database.commit();
+    database.waitForFinished();
+    QCOMPARE(errors.size(), 4);
+    QCOMPARE(Support::namesIn(database), QStringList{u"A"_s});
 }
 
 void tst_lifecycle::init_ofAForeignFileFailsAndLeavesIt()
