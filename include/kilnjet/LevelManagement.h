@@ -15,7 +15,7 @@ namespace Norvane::Kilnjet {
 /// screening engine, which this library stores and compares but does not interpret.
 enum class LevelManagement : int
 {
-    None = 0x0,
+    None = 0x0, ///< Not said, or a name that does not exist.
     Legacy = 0x440804, ///< 4 levels.
     Fixed = 0x041044, ///< 4 levels; deprecated.
     Dynamic = 0x041084, ///< 4 levels.

@@ -11,10 +11,10 @@ namespace Norvane::Kilnjet {
 enum class PrinterClass : int
 {
     Inkjet = 0, ///< Industrial inkjet machines.
-    Plotter = 1,
+    Plotter = 1, ///< Plotters.
     Engraver = 2, ///< Laser engravers.
     Dryjet = 3, ///< Industrial dry-jet machines.
-    Develop = 4,
+    Develop = 4, ///< For development.
     Unknown = 5, ///< Not said yet: a new driver's class.
 };
 

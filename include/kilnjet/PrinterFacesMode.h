@@ -10,9 +10,9 @@ namespace Norvane::Kilnjet {
 /// How a printer handles the faces of a tile design.
 enum class PrinterFacesMode : int
 {
-    None = 0,
-    Basic = 1,
-    Advanced = 2,
+    None = 0, ///< It does not handle them.
+    Basic = 1, ///< In its basic mode.
+    Advanced = 2, ///< In its advanced mode.
 };
 
 } // namespace Norvane::Kilnjet

@@ -15,16 +15,16 @@ namespace Norvane::Kilnjet {
 /// online; each method with that bit is a value with a name of its own.
 enum class PrinterFileCompression : int
 {
-    None = 0x0,
-    Rle = 0x1,
-    Lzw = 0x2,
-    Zip = 0x4,
-    Lz4 = 0x8,
-    OnlineOnly = 0x1000,
-    RleOnline = 0x1001,
-    LzwOnline = 0x1002,
-    ZipOnline = 0x1004,
-    Lz4Online = 0x1008,
+    None = 0x0, ///< Files are not compressed.
+    Rle = 0x1, ///< Run lengths.
+    Lzw = 0x2, ///< Lempel-Ziv-Welch.
+    Zip = 0x4, ///< Deflate, as in ZIP files.
+    Lz4 = 0x8, ///< LZ4.
+    OnlineOnly = 0x1000, ///< The bit alone: no method yet.
+    RleOnline = 0x1001, ///< Run lengths, only when printing online.
+    LzwOnline = 0x1002, ///< Lempel-Ziv-Welch, only when printing online.
+    ZipOnline = 0x1004, ///< Deflate, as in ZIP files, only when printing online.
+    Lz4Online = 0x1008, ///< LZ4, only when printing online.
 };
 VCORE_DECLARE_FLAGS(PrinterFileCompression)
 

@@ -15,10 +15,10 @@ namespace Norvane::Kilnjet {
 /// online.
 enum class PrinterFileProtection : int
 {
-    None = 0x0,
-    Obfuscation = 0x1,
-    OnlineOnly = 0x1000,
-    ObfuscationOnline = 0x1001,
+    None = 0x0, ///< Files are not protected.
+    Obfuscation = 0x1, ///< Files are obfuscated.
+    OnlineOnly = 0x1000, ///< The bit alone: no protection yet.
+    ObfuscationOnline = 0x1001, ///< Files are obfuscated, only when printing online.
 };
 VCORE_DECLARE_FLAGS(PrinterFileProtection)
 

@@ -14,7 +14,7 @@ namespace Norvane::Database {
 /// How the last operation of a text database ended.
 enum class VDBStatus
 {
-    Ok,
+    Ok, ///< It has done what it should.
     NoDevice, ///< There is no device to work on.
     NotFound, ///< The file does not exist.
     Io, ///< The system refused to open, read, write or sync; VDBText::errorString() says why.

@@ -12,8 +12,8 @@ namespace Norvane {
 /// A boolean that is written by name.
 enum class Bool : bool
 {
-    False = false,
-    True = true,
+    False = false, ///< No.
+    True = true, ///< Yes.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VCORE_EXPORT, Bool, VEnumBase)

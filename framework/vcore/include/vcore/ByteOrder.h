@@ -12,8 +12,8 @@ namespace Norvane {
 /// The order of the bytes of a number in a file.
 enum class ByteOrder : int
 {
-    BigEndian = 0,
-    LittleEndian = 1,
+    BigEndian = 0, ///< The most significant byte comes first.
+    LittleEndian = 1, ///< The least significant byte comes first.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VCORE_EXPORT, ByteOrder, VEnumBase)

@@ -13,9 +13,9 @@ namespace Norvane {
 enum class IconStyle : int
 {
     ApplicationDefault = 0, ///< What the application uses elsewhere.
-    Square = 1,
-    Round = 2,
-    RoundedSquare = 3,
+    Square = 1, ///< A square.
+    Round = 2, ///< A circle.
+    RoundedSquare = 3, ///< A square with rounded corners.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VCORE_EXPORT, IconStyle, VEnumBase)

@@ -13,24 +13,24 @@ namespace Norvane {
 enum class OperatingSystemType : int
 {
     Mac_OS = 0, ///< Before macOS.
-    macOS = 1,
+    macOS = 1, ///< Apple's, for computers.
     OSX = macOS, ///< An earlier name; read, never written.
-    iOS = 2,
-    Windows = 3,
-    Linux = 4,
-    BSD_ = 5,
-    Unix = 6,
-    Android = 7,
-    Symbian = 8,
-    OS_400 = 9,
-    OS_2 = 10,
-    BeOS = 11,
-    watchOS = 12,
-    tvOS = 13,
-    iPadOS = 14,
-    ChromeOS = 15,
-    WearOS = 16,
-    Unknown = 17,
+    iOS = 2, ///< Apple's, for telephones.
+    Windows = 3, ///< Microsoft's.
+    Linux = 4, ///< Any distribution of it.
+    BSD_ = 5, ///< FreeBSD and its kin.
+    Unix = 6, ///< Any other Unix.
+    Android = 7, ///< Google's, for telephones.
+    Symbian = 8, ///< For telephones, once.
+    OS_400 = 9, ///< IBM's, for its AS/400.
+    OS_2 = 10, ///< IBM's OS/2, for computers.
+    BeOS = 11, ///< Be's, for computers.
+    watchOS = 12, ///< Apple's, for watches.
+    tvOS = 13, ///< Apple's, for television sets.
+    iPadOS = 14, ///< Apple's, for tablets.
+    ChromeOS = 15, ///< Google's, for computers.
+    WearOS = 16, ///< Google's, for watches.
+    Unknown = 17, ///< None of these, or not known.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VCORE_EXPORT, OperatingSystemType, VEnumBase)

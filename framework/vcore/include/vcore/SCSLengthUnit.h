@@ -12,12 +12,12 @@ namespace Norvane {
 /// A customary unit of length; the number is its length in inches.
 enum class SCSLengthUnit : int
 {
-    Inch = 1,
-    Foot = 12,
-    Yard = 36,
-    Rod = 198,
-    Furlong = 7920,
-    Mile = 63360,
+    Inch = 1, ///< 25.4 mm.
+    Foot = 12, ///< 12 inches.
+    Yard = 36, ///< 3 feet.
+    Rod = 198, ///< 16.5 feet.
+    Furlong = 7920, ///< 40 rods.
+    Mile = 63360, ///< 8 furlongs.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VCORE_EXPORT, SCSLengthUnit, VEnumBase)

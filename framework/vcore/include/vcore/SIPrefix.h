@@ -12,27 +12,27 @@ namespace Norvane {
 /// A metric prefix; the number is its power of ten.
 enum class SIPrefix : int
 {
-    Yocto = -24,
-    Zepto = -21,
-    Atto = -18,
-    Femto = -15,
-    Pico = -12,
-    Nano = -9,
-    Micro = -6,
-    Milli = -3,
-    Centi = -2,
-    Deci = -1,
+    Yocto = -24, ///< y: a septillionth.
+    Zepto = -21, ///< z: a sextillionth.
+    Atto = -18, ///< a: a quintillionth.
+    Femto = -15, ///< f: a quadrillionth.
+    Pico = -12, ///< p: a trillionth.
+    Nano = -9, ///< n: a billionth.
+    Micro = -6, ///< µ: a millionth.
+    Milli = -3, ///< m: a thousandth.
+    Centi = -2, ///< c: a hundredth.
+    Deci = -1, ///< d: a tenth.
     Base = 0, ///< The unit without a prefix.
-    Deca = 1,
-    Hecto = 2,
-    Kilo = 3,
-    Mega = 6,
-    Giga = 9,
-    Tera = 12,
-    Peta = 15,
-    Exa = 18,
-    Zetta = 21,
-    Yotta = 24,
+    Deca = 1, ///< da: ten.
+    Hecto = 2, ///< h: a hundred.
+    Kilo = 3, ///< k: a thousand.
+    Mega = 6, ///< M: a million.
+    Giga = 9, ///< G: a billion.
+    Tera = 12, ///< T: a trillion.
+    Peta = 15, ///< P: a quadrillion.
+    Exa = 18, ///< E: a quintillion.
+    Zetta = 21, ///< Z: a sextillion.
+    Yotta = 24, ///< Y: a septillion.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VCORE_EXPORT, SIPrefix, VEnumBase)

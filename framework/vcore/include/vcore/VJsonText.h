@@ -48,14 +48,14 @@ private:
 
     enum class Kind : quint8
     {
-        Object,
-        Array,
-        Key,
-        String,
-        Number,
-        True,
-        False,
-        Null
+        Object, ///< Keys and values in braces.
+        Array, ///< Values in brackets.
+        Key, ///< The name of a value in an object.
+        String, ///< A text.
+        Number, ///< A number.
+        True, ///< `true`.
+        False, ///< `false`.
+        Null, ///< `null`.
     };
 
     /// A value or a key: its bytes (of strings, what stands between the quotes), and the token that

@@ -13,13 +13,13 @@ namespace Norvane::ColorManagement::LittleCMS {
 /// The class of a colour profile, as the signature in its header (ICC.1).
 enum class ClassSignature : int
 {
-    Input = 0x73636E72,
-    Display = 0x6D6E7472,
-    Output = 0x70727472,
-    Link = 0x6C696E6B,
-    Abstract = 0x61627374,
-    ColorSpace = 0x73706163,
-    NamedColor = 0x6E6D636C,
+    Input = 0x73636E72, ///< Scanners and cameras.
+    Display = 0x6D6E7472, ///< Screens.
+    Output = 0x70727472, ///< Printers.
+    Link = 0x6C696E6B, ///< From one device straight to another.
+    Abstract = 0x61627374, ///< A change of colours, of no device.
+    ColorSpace = 0x73706163, ///< A colour space, of no device.
+    NamedColor = 0x6E6D636C, ///< Colours that have names.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VIMAGING_EXPORT, ClassSignature, VEnumBase)

@@ -13,9 +13,9 @@ namespace Norvane::Imaging::Filters {
 /// How an image filter is to be applied.
 enum class FilterOptions : int
 {
-    None = 0,
+    None = 0, ///< As filters usually are.
     ApplyInPlace = 1, ///< The result replaces the source image.
-    Progressive = 2,
+    Progressive = 2, ///< The result comes step by step.
     MultiImageConcurrence = 4, ///< Several images may be filtered at once.
     NoopNotPermitted = 8, ///< A filter that would change nothing is an error.
     All = -1, ///< Every option, known or not.

@@ -23,68 +23,68 @@ namespace Norvane::Imaging {
 /// sixteen levels.
 enum class ImageFormat : int
 {
-    Invalid = 0,
+    Invalid = 0, ///< No image.
 
     // A palette.
-    Indexed_1bpp = 0x100101,
-    Indexed_2bpp = 0x100102,
-    Indexed_4bpp = 0x100104,
-    Indexed_8bpp = 0x100108,
+    Indexed_1bpp = 0x100101, ///< A palette of 2 colours.
+    Indexed_2bpp = 0x100102, ///< A palette of 4 colours.
+    Indexed_4bpp = 0x100104, ///< A palette of 16 colours.
+    Indexed_8bpp = 0x100108, ///< A palette of 256 colours.
 
     // One channel; zero is black, or white with a W.
-    Gray_1bpp = 0x200101,
-    Gray_4bpp = 0x200104,
-    Gray_8bpp = 0x200108,
-    Gray_16bpp = 0x200110,
-    GrayW_1bpp = 0x240101,
-    GrayW_4bpp = 0x240104,
-    GrayW_8bpp = 0x240108,
-    GrayW_16bpp = 0x240110,
+    Gray_1bpp = 0x200101, ///< 2 levels, zero is black.
+    Gray_4bpp = 0x200104, ///< 16 levels, zero is black.
+    Gray_8bpp = 0x200108, ///< 256 levels, zero is black.
+    Gray_16bpp = 0x200110, ///< 65536 levels, zero is black.
+    GrayW_1bpp = 0x240101, ///< 2 levels, zero is white.
+    GrayW_4bpp = 0x240104, ///< 16 levels, zero is white.
+    GrayW_8bpp = 0x240108, ///< 256 levels, zero is white.
+    GrayW_16bpp = 0x240110, ///< 65536 levels, zero is white.
 
     // X is padding, A is alpha.
-    Rgb_24bpp = 0x300318,
-    RgbX_32bpp = 0x320420,
-    RgbA_32bpp = 0x310420,
-    Rgb_48bpp = 0x300330,
-    RgbX_64bpp = 0x320440,
-    RgbA_64bpp = 0x310440,
+    Rgb_24bpp = 0x300318, ///< 8 bits a channel.
+    RgbX_32bpp = 0x320420, ///< 8 bits a channel, with padding.
+    RgbA_32bpp = 0x310420, ///< 8 bits a channel, with alpha.
+    Rgb_48bpp = 0x300330, ///< 16 bits a channel.
+    RgbX_64bpp = 0x320440, ///< 16 bits a channel, with padding.
+    RgbA_64bpp = 0x310440, ///< 16 bits a channel, with alpha.
 
     // Process colours, with up to four more channels.
-    Cmy_24bpp = 0x400318,
-    Cmy_48bpp = 0x400330,
-    Cmyk_32bpp = 0x500420,
-    Cmyk_64bpp = 0x500440,
-    CmykX1_40bpp = 0x500528,
-    CmykX2_48bpp = 0x500630,
-    CmykX3_56bpp = 0x500738,
-    CmykX4_64bpp = 0x500840,
-    CmykX1_80bpp = 0x500550,
-    CmykX2_96bpp = 0x500660,
-    CmykX3_112bpp = 0x500770,
-    CmykX4_128bpp = 0x500880,
+    Cmy_24bpp = 0x400318, ///< 8 bits a channel.
+    Cmy_48bpp = 0x400330, ///< 16 bits a channel.
+    Cmyk_32bpp = 0x500420, ///< 8 bits a channel.
+    Cmyk_64bpp = 0x500440, ///< 16 bits a channel.
+    CmykX1_40bpp = 0x500528, ///< 8 bits a channel, one more than CMYK.
+    CmykX2_48bpp = 0x500630, ///< 8 bits a channel, two more than CMYK.
+    CmykX3_56bpp = 0x500738, ///< 8 bits a channel, three more than CMYK.
+    CmykX4_64bpp = 0x500840, ///< 8 bits a channel, four more than CMYK.
+    CmykX1_80bpp = 0x500550, ///< 16 bits a channel, one more than CMYK.
+    CmykX2_96bpp = 0x500660, ///< 16 bits a channel, two more than CMYK.
+    CmykX3_112bpp = 0x500770, ///< 16 bits a channel, three more than CMYK.
+    CmykX4_128bpp = 0x500880, ///< 16 bits a channel, four more than CMYK.
 
     // Channels without a meaning of their own.
-    MCh1_8bpp = 0x600108,
-    MCh2_16bpp = 0x600210,
-    MCh3_24bpp = 0x600318,
-    MCh4_32bpp = 0x600420,
-    MCh5_40bpp = 0x600528,
-    MCh6_48bpp = 0x600630,
-    MCh7_56bpp = 0x600738,
-    MCh8_64bpp = 0x600840,
-    MCh1_16bpp = 0x600110,
-    MCh2_32bpp = 0x600220,
-    MCh3_48bpp = 0x600330,
-    MCh4_64bpp = 0x600440,
-    MCh5_80bpp = 0x600550,
-    MCh6_96bpp = 0x600660,
-    MCh7_112bpp = 0x600770,
-    MCh8_128bpp = 0x600880,
+    MCh1_8bpp = 0x600108, ///< 1 channel of 8 bits.
+    MCh2_16bpp = 0x600210, ///< 2 channels of 8 bits.
+    MCh3_24bpp = 0x600318, ///< 3 channels of 8 bits.
+    MCh4_32bpp = 0x600420, ///< 4 channels of 8 bits.
+    MCh5_40bpp = 0x600528, ///< 5 channels of 8 bits.
+    MCh6_48bpp = 0x600630, ///< 6 channels of 8 bits.
+    MCh7_56bpp = 0x600738, ///< 7 channels of 8 bits.
+    MCh8_64bpp = 0x600840, ///< 8 channels of 8 bits.
+    MCh1_16bpp = 0x600110, ///< 1 channel of 16 bits.
+    MCh2_32bpp = 0x600220, ///< 2 channels of 16 bits.
+    MCh3_48bpp = 0x600330, ///< 3 channels of 16 bits.
+    MCh4_64bpp = 0x600440, ///< 4 channels of 16 bits.
+    MCh5_80bpp = 0x600550, ///< 5 channels of 16 bits.
+    MCh6_96bpp = 0x600660, ///< 6 channels of 16 bits.
+    MCh7_112bpp = 0x600770, ///< 7 channels of 16 bits.
+    MCh8_128bpp = 0x600880, ///< 8 channels of 16 bits.
 
     // Integer channels; at 96 bits, floating point.
-    Lab_24bpp = 0x700318,
-    Lab_48bpp = 0x700330,
-    Lab_96bpp = 0x700360,
+    Lab_24bpp = 0x700318, ///< 8 bits a channel.
+    Lab_48bpp = 0x700330, ///< 16 bits a channel.
+    Lab_96bpp = 0x700360, ///< 32 bits a channel, floating point.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VIMAGING_EXPORT, ImageFormat, VEnumBase)

@@ -13,25 +13,25 @@ namespace Norvane::Imaging {
 /// How an image file is to be written.
 enum class ImageSaveOptions : int
 {
-    None = 0x000,
+    None = 0x000, ///< As the format does by itself.
 
     // Compression and encryption.
-    Lzw = 0x001,
-    Rle = 0x002,
-    Zip = 0x004,
-    Jpeg = 0x008,
-    Lz4 = 0x010,
-    Aes128 = 0x020,
+    Lzw = 0x001, ///< Compressed by Lempel-Ziv-Welch.
+    Rle = 0x002, ///< Compressed by run lengths.
+    Zip = 0x004, ///< Compressed by Deflate.
+    Jpeg = 0x008, ///< Compressed by JPEG; loses detail.
+    Lz4 = 0x010, ///< Compressed by LZ4.
+    Aes128 = 0x020, ///< Encrypted by AES with a key of 128 bits.
 
     // One file a channel.
-    ForceSplit = 0x040,
-    DenySplit = 0x080,
+    ForceSplit = 0x040, ///< Always one file a channel.
+    DenySplit = 0x080, ///< Never one file a channel.
 
     // What is left out.
-    ExcludeXmp = 0x100,
-    ExcludeGps = 0x200,
-    ExcludeExif = 0x400,
-    ExcludePreview = 0x800,
+    ExcludeXmp = 0x100, ///< Without the XMP metadata.
+    ExcludeGps = 0x200, ///< Without the place where it was taken.
+    ExcludeExif = 0x400, ///< Without what the camera has noted.
+    ExcludePreview = 0x800, ///< Without the preview.
 };
 VCORE_DECLARE_FLAGS(ImageSaveOptions)
 

@@ -13,7 +13,7 @@ namespace Norvane::Imaging {
 /// What is unusual about an image file that was read.
 enum class ImageUnusual : int
 {
-    None = 0,
+    None = 0, ///< Nothing is unusual.
     TiffSepared = 1, ///< A TIFF file of separations.
     TiffLab = 2, ///< A TIFF file in Lab.
 };

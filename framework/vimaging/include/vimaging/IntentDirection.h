@@ -13,11 +13,11 @@ namespace Norvane::ColorManagement::LittleCMS {
 /// The part of a colour transformation that a rendering intent is for.
 enum class IntentDirection : int
 {
-    Input = 0,
-    Output = 1,
-    Proof = 2,
-    InputOutput = 3,
-    All = 4,
+    Input = 0, ///< From the device's colours.
+    Output = 1, ///< Into the device's colours.
+    Proof = 2, ///< To show one device on another.
+    InputOutput = 3, ///< Input and output.
+    All = 4, ///< Input, output and proof.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VIMAGING_EXPORT, IntentDirection, VEnumBase)

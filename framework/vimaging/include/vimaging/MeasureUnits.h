@@ -13,9 +13,9 @@ namespace Norvane::Imaging {
 /// A unit of length in which images are measured.
 enum class MeasureUnits : int
 {
-    Meters = 0,
-    Millimeters = 1,
-    Inches = 2,
+    Meters = 0, ///< Metres.
+    Millimeters = 1, ///< Millimetres.
+    Inches = 2, ///< Inches of 25.4 mm.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VIMAGING_EXPORT, MeasureUnits, VEnumBase)

@@ -13,7 +13,7 @@ namespace Norvane::Imaging {
 /// The order of a palette.
 enum class PaletteOrder : int
 {
-    Default = 0,
+    Default = 0, ///< The usual one: the darkest colour comes first.
     DarkLowest =
         Default, ///< The darkest colour comes first, which is the default; read, never written.
     ClearLowest = 1, ///< The lightest colour comes first.

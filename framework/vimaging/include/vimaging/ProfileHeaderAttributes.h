@@ -14,10 +14,10 @@ namespace Norvane::ColorManagement::LittleCMS {
 enum class ProfileHeaderAttributes : int
 {
     None = 0, ///< A reflective, glossy, positive medium in colour.
-    Transparency = 1,
-    Matte = 2,
-    Negative = 4,
-    BlackAndWhite = 8,
+    Transparency = 1, ///< Light goes through it.
+    Matte = 2, ///< It is matt.
+    Negative = 4, ///< Its colours are negative.
+    BlackAndWhite = 8, ///< It has no colour.
 };
 VCORE_DECLARE_FLAGS(ProfileHeaderAttributes)
 

@@ -13,9 +13,9 @@ namespace Norvane::ColorManagement::LittleCMS {
 /// How a colour profile may be used, as the flag bits of its header (ICC.1).
 enum class ProfileHeaderFlags : int
 {
-    None = 0,
-    EmbeddedProfile = 1,
-    UseWithEmbeddedDataOnly = 2,
+    None = 0, ///< On its own, for any image.
+    EmbeddedProfile = 1, ///< It is embedded in a file.
+    UseWithEmbeddedDataOnly = 2, ///< Only for the data of that file.
 };
 VCORE_DECLARE_FLAGS(ProfileHeaderFlags)
 

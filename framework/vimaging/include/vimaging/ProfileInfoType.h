@@ -13,10 +13,10 @@ namespace Norvane::ColorManagement::LittleCMS {
 /// A text that a colour profile carries about itself.
 enum class ProfileInfoType : int
 {
-    Description = 0,
-    Manufacturer = 1,
-    Model = 2,
-    Copyright = 3,
+    Description = 0, ///< What it is.
+    Manufacturer = 1, ///< Who made the device.
+    Model = 2, ///< Which device it is.
+    Copyright = 3, ///< Who holds the rights.
     DescriptionML = 100, ///< The description in every language that there is.
 };
 

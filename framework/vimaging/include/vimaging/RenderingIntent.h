@@ -16,16 +16,16 @@ namespace Norvane::ColorManagement::LittleCMS {
 /// does.
 enum class RenderingIntent : int
 {
-    IccPerceptual = 0,
-    IccRelativeColorimetric = 1,
-    IccSaturation = 2,
-    IccAbsoluteColorimetric = 3,
-    NonIccPreserveKOnlyPerceptual = 10,
-    NonIccPreserveKOnlyRelativeColorimetric = 11,
-    NonIccPreserveKOnlySaturation = 12,
-    NonIccPreserveKPlanePerceptual = 13,
-    NonIccPreserveKPlaneRelativeColorimetric = 14,
-    NonIccPreserveKPlaneSaturation = 15,
+    IccPerceptual = 0, ///< Pleasing as a whole.
+    IccRelativeColorimetric = 1, ///< Exact, but for the medium's white.
+    IccSaturation = 2, ///< Vivid rather than exact.
+    IccAbsoluteColorimetric = 3, ///< Exact, the medium's white included.
+    NonIccPreserveKOnlyPerceptual = 10, ///< Perceptual; black alone stays black alone.
+    NonIccPreserveKOnlyRelativeColorimetric = 11, ///< Relative; black alone stays black alone.
+    NonIccPreserveKOnlySaturation = 12, ///< Saturation; black alone stays black alone.
+    NonIccPreserveKPlanePerceptual = 13, ///< Perceptual; all black ink stays.
+    NonIccPreserveKPlaneRelativeColorimetric = 14, ///< Relative; all black ink stays.
+    NonIccPreserveKPlaneSaturation = 15, ///< Saturation; all black ink stays.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VIMAGING_EXPORT, RenderingIntent, VEnumBase)

@@ -16,22 +16,22 @@ namespace Norvane::Imaging {
 /// is written and both are read.
 enum class RotateFlipType : int
 {
-    RotateNoneFlipNone = 0,
-    Rotate180FlipXY = 0,
-    Rotate90FlipNone = 1,
-    Rotate270FlipXY = 1,
-    RotateNoneFlipX = 2,
-    Rotate180FlipY = 2,
-    Rotate90FlipX = 3,
-    Rotate270FlipY = 3,
-    RotateNoneFlipY = 4,
-    Rotate180FlipX = 4,
-    Rotate90FlipY = 5,
-    Rotate270FlipX = 5,
-    RotateNoneFlipXY = 6,
-    Rotate180FlipNone = 6,
-    Rotate90FlipXY = 7,
-    Rotate270FlipNone = 7,
+    RotateNoneFlipNone = 0, ///< Unchanged.
+    Rotate180FlipXY = 0, ///< The same as `RotateNoneFlipNone`.
+    Rotate90FlipNone = 1, ///< A quarter turn clockwise.
+    Rotate270FlipXY = 1, ///< The same as `Rotate90FlipNone`.
+    RotateNoneFlipX = 2, ///< Left and right change places.
+    Rotate180FlipY = 2, ///< The same as `RotateNoneFlipX`.
+    Rotate90FlipX = 3, ///< A quarter turn, then left for right.
+    Rotate270FlipY = 3, ///< The same as `Rotate90FlipX`.
+    RotateNoneFlipY = 4, ///< Top and bottom change places.
+    Rotate180FlipX = 4, ///< The same as `RotateNoneFlipY`.
+    Rotate90FlipY = 5, ///< A quarter turn, then top for bottom.
+    Rotate270FlipX = 5, ///< The same as `Rotate90FlipY`.
+    RotateNoneFlipXY = 6, ///< A half turn.
+    Rotate180FlipNone = 6, ///< The same as `RotateNoneFlipXY`.
+    Rotate90FlipXY = 7, ///< A quarter turn anticlockwise.
+    Rotate270FlipNone = 7, ///< The same as `Rotate90FlipXY`.
 };
 
 VCORE_DECLARE_ENUM_RUNTIME(VIMAGING_EXPORT, RotateFlipType, VEnumBase)
