@@ -14,7 +14,7 @@ namespace Fuzz {
 
 namespace {
 
-constexpr auto kHash = QCryptographicHash::Blake2b_256;
+constexpr auto kHash = QCryptographicHash::Sha256;
 constexpr QByteArrayView kMagic("vdbtext\t");
 
 QByteArray text(const QByteArray &digest)

@@ -24,12 +24,12 @@ QByteArray text(const QByteArray &hash)
 
 QByteArray sum(const QByteArray &bytes)
 {
-    return text(QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256));
+    return text(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256));
 }
 
 QByteArray code(const QByteArray &message, const QByteArray &key)
 {
-    return QMessageAuthenticationCode::hash(message, key, QCryptographicHash::Blake2b_256);
+    return QMessageAuthenticationCode::hash(message, key, QCryptographicHash::Sha256);
 }
 
 } // namespace
@@ -81,8 +81,8 @@ void tst_VDBTextFormat::documentedExample_holds()
     const QByteArray commitLine = "=\t58\t" + sum('=' + commit) + "\t-\t" + commit + '\n';
     const QByteArray bytes = storeWith({{{u"A"_s, u"alpha"_s}}});
     QVERIFY(bytes.endsWith('\n' + line + commitLine + ".\n"));
-    QCOMPARE(sum('+' + payload), "so1lGBoqn5lA8rypz0hYX1fbVrz-TOH2ko8IzpR33D8"_ba);
-    QVERIFY(commit.endsWith("WL7xl73noi4HYflhF1qAXrxABTy7oy2eqb8jQPe8Y-w"));
+    QCOMPARE(sum('+' + payload), "Pp7G7D6eId04Cn7X4qE3Phx8LTnkHcSl3G7j-6tLF9U"_ba);
+    QVERIFY(commit.endsWith("0bAAB0YCnRK8tjuW9QWNRX9WFuTGIXCjFntFcUPXjWU"));
     const qsizetype copy = bytes.indexOf('\n') + 1;
     QCOMPARE(bytes.first(copy), bytes.mid(copy, copy));
     const qsizetype sumAt = bytes.indexOf("\tsum=");

@@ -3,8 +3,6 @@
 
 #include "VDBFormat.h"
 
-#include <QtCore/QCryptographicHash>
-#include <QtCore/QMessageAuthenticationCode>
 #include <QtCore/QStringDecoder>
 
 #include <algorithm>
@@ -15,7 +13,6 @@ namespace Norvane::Database {
 
 namespace {
 
-constexpr auto kHash = QCryptographicHash::Blake2b_256;
 constexpr auto kBase64 = QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals;
 /// The characters with an escape of their own, and the letters that these consist of.
 constexpr qsizetype kEscapes = 4;
@@ -24,9 +21,9 @@ constexpr char kLetters[] = "\\tnr";
 /// Lengths have at most this many digits; no file is longer.
 constexpr qsizetype kMaxLengthDigits = 15;
 
-QByteArray authenticationCode(const QByteArray &message, const QByteArray &key)
+QByteArray textOf(const Digest &digest)
 {
-    return QMessageAuthenticationCode::hash(message, key, kHash);
+    return QByteArray::fromRawData(digest.data(), digest.size()).toBase64(kBase64);
 }
 
 bool needsEscape(char c, bool isKey)
@@ -200,34 +197,29 @@ QString findField(QByteArrayView payload, const QString &key)
 Signer::Signer(const QString &key)
     // Lines are signed with a key derived from the given one, so that the check in the header and
     // the codes of the lines never stand for each other.
-    : m_key(key.isEmpty() ? QByteArray() : authenticationCode("vdbtext line key"_ba, key.toUtf8()))
+    : m_isKeyed(!key.isEmpty())
+    , m_key(m_isKeyed ? hmacSha256(key.toUtf8(), "vdbtext line key") : Digest())
 { }
 
 QByteArray Signer::keyCheck() const
 {
-    return isKeyed() ? authenticationCode("vdbtext key check"_ba, m_key).toBase64(kBase64)
-                     : QByteArray();
+    return isKeyed() ? textOf(hmacSha256(m_key, "vdbtext key check")) : QByteArray();
 }
 
 QByteArray Signer::sum(LineKind kind, QByteArrayView payload)
 {
-    QCryptographicHash hash(kHash);
     const char kindByte = char(kind);
-    hash.addData(QByteArrayView(&kindByte, 1));
-    hash.addData(payload);
-    return hash.result().toBase64(kBase64);
+    return textOf(sha256(QByteArrayView(&kindByte, 1), payload));
 }
 
 QByteArray Signer::sum(QByteArrayView bytes)
 {
-    QCryptographicHash hash(kHash);
-    hash.addData(bytes);
-    return hash.result().toBase64(kBase64);
+    return textOf(sha256(bytes));
 }
 
 QByteArray Signer::code(QByteArrayView sum) const
 {
-    return isKeyed() ? authenticationCode(sum.toByteArray(), m_key).toBase64(kBase64) : "-"_ba;
+    return isKeyed() ? textOf(hmacSha256(m_key, sum)) : "-"_ba;
 }
 
 QByteArray encodeHeader(const Header &header)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "VDBHash.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QByteArrayView>
 #include <QtCore/QList>
@@ -81,7 +83,7 @@ public:
     /// An empty key signs with sums alone.
     explicit Signer(const QString &key = QString());
 
-    bool isKeyed() const { return !m_key.isEmpty(); }
+    bool isKeyed() const { return m_isKeyed; }
     /// Tells this key from others, without telling the key. Empty without a key.
     QByteArray keyCheck() const;
     /// The sum of a line, as text: 43 characters.
@@ -91,7 +93,8 @@ public:
     QByteArray code(QByteArrayView sum) const;
 
 private:
-    QByteArray m_key;
+    bool m_isKeyed;
+    Digest m_key;
 };
 
 /// What stands in a header.

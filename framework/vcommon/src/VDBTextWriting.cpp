@@ -23,7 +23,7 @@ qint64 fillingFor(qint64 size)
 {
     constexpr qint64 kUsual = qint64(64) * 1024;
     constexpr qint64 kMost = qint64(1024) * 1024;
-    return std::clamp(size / 50, std::min(size / 2, kUsual), kMost);
+    return std::clamp(size / 100, std::min(size / 2, kUsual), kMost);
 }
 
 } // namespace
