@@ -49,18 +49,24 @@ constexpr auto kPlain = [] {
 }();
 
 #ifdef __SSE2__
-constexpr qsizetype kBlock = 16;
+/// Two registers: most strings end in their first block.
+constexpr qsizetype kBlock = 32;
 
-/// How many of the first kBlock bytes are plain.
-qsizetype plainLength(const char *block)
+/// A bit for each of 16 bytes that is not plain.
+quint32 notPlain(const char *at)
 {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i *>(block));
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i *>(at));
     // As signed numbers, bytes outside ASCII are below the blank, too.
     const __m128i isOdd = _mm_cmplt_epi8(bytes, _mm_set1_epi8(' '));
     const __m128i isSpecial = _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')),
                                            _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\')));
-    const auto found = unsigned(_mm_movemask_epi8(_mm_or_si128(isOdd, isSpecial)));
-    return std::countr_zero(found | 1U << kBlock);
+    return quint32(_mm_movemask_epi8(_mm_or_si128(isOdd, isSpecial)));
+}
+
+/// How many of the first kBlock bytes are plain.
+qsizetype plainLength(const char *block)
+{
+    return std::countr_zero(notPlain(block) | notPlain(block + kBlock / 2) << kBlock / 2);
 }
 #else
 constexpr qsizetype kBlock = 8;
@@ -141,12 +147,13 @@ private:
     bool readNumber();
     bool readWord(const char *word, Kind kind);
     bool hasKeyTwice(quint32 object) const;
-    void skipPlain();
+    const char *behindPlain(const char *at) const;
 
     char peek() const { return m_at < m_end ? *m_at : '\0'; }
     void skipBlanks()
     {
-        while (m_at < m_end && isBlank(*m_at))
+        // Compact text has none, so nothing else is compared with each of the four.
+        while (m_at < m_end && uchar(*m_at) <= ' ' && isBlank(*m_at))
             ++m_at;
     }
     bool take(char c)
@@ -251,35 +258,34 @@ bool VJsonText::Parser::readArray(int depth)
     return true;
 }
 
-void VJsonText::Parser::skipPlain()
+/// Behind the plain bytes at `at`.
+inline const char *VJsonText::Parser::behindPlain(const char *at) const
 {
-    while (m_end - m_at >= kBlock) {
-        const qsizetype length = plainLength(m_at);
-        m_at += length;
+    while (m_end - at >= kBlock) {
+        const qsizetype length = plainLength(at);
+        at += length;
         if (length < kBlock)
-            return;
+            return at;
     }
-    while (m_at < m_end && kPlain[uchar(*m_at)])
-        ++m_at;
+    while (at < m_end && kPlain[uchar(*at)])
+        ++at;
+    return at;
 }
 
 bool VJsonText::Parser::readString(Kind kind)
 {
-    ++m_at;
-    // QJsonDocument drops a byte order mark at the start of a string.
-    if (peek() == '\xef' && QByteArrayView(m_at, m_end).startsWith("\xef\xbb\xbf"))
-        return false;
-    const quint32 begin = here();
-    for (;;) {
-        skipPlain();
-        if (m_at == m_end || uchar(*m_at) < 0x80)
-            break;
-        const qsizetype length = sequenceLength(m_at, m_end);
-        if (length == 0)
+    const char *const begin = m_at + 1;
+    const char *at = behindPlain(begin);
+    while (at < m_end && uchar(*at) >= 0x80) {
+        const qsizetype length = sequenceLength(at, m_end);
+        // QJsonDocument drops a byte order mark at the start of a string.
+        if (length == 0
+            || (at == begin && QByteArrayView(at, length) == QByteArrayView("\xef\xbb\xbf")))
             return false;
-        m_at += length;
+        at = behindPlain(at + length);
     }
-    addLeaf(kind, begin);
+    m_at = at;
+    addLeaf(kind, quint32(begin - m_begin));
     return take('"'); // An escape or a control character stands here otherwise.
 }
 
