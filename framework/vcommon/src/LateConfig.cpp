@@ -18,7 +18,7 @@ bool areOwn(const VJsonTextArray &children, const Prototypes &prototypes)
         if (!child.isObject())
             continue; // Skipped by whoever decodes.
         const VJsonTextObject envelope = child.toObject();
-        if (codecOf(prototypes.find(envelope)) == nullptr
+        if (prototypes.find(envelope).codec == nullptr
             || !areOwn(envelope.value(EnvelopeKey::kChildren).toArray(), prototypes))
             return false;
     }

@@ -40,8 +40,12 @@ struct Registry
     void _publish()
     {
         auto published = std::make_shared<Prototypes>();
-        for (const Prototype &each : known)
-            published->byKind.insert(each.kind, each.config);
+        for (const Prototype &each : known) {
+            const Prototypes::Kind kind{each.config, codecOf(each.config)};
+            published->byId.insert(each.kind, kind);
+            if (!each.kind.isNull()) // No envelope names that one.
+                published->byText.insert(each.kind.toByteArray(), kind);
+        }
         prototypes = std::move(published);
     }
 };
@@ -74,18 +78,27 @@ const VDeviceConfigCodec *codecOf(const IVDeviceConfig *prototype)
     return config != nullptr ? config->codec() : nullptr;
 }
 
-template<typename Object>
-const IVDeviceConfig *Prototypes::find(const Object &envelope) const
+Prototypes::Kind Prototypes::find(const QUuid &id) const
 {
-    const QUuid kind = uuidFromJson(envelope.value(EnvelopeKey::kId));
-    return kind.isNull() ? nullptr : byKind.value(kind, nullptr);
+    return id.isNull() ? Kind() : byId.value(id);
 }
 
-template const IVDeviceConfig *Prototypes::find(const VJsonTextObject &) const;
+Prototypes::Kind Prototypes::find(const QJsonObject &envelope) const
+{
+    return find(uuidFromJson(envelope.value(EnvelopeKey::kId)));
+}
+
+Prototypes::Kind Prototypes::find(const VJsonTextObject &envelope) const
+{
+    const VJsonTextValue id = envelope.value(EnvelopeKey::kId);
+    const QUtf8StringView text = id.utf8();
+    const auto kind = byText.constFind(QByteArray::fromRawData(text.data(), text.size()));
+    return kind != byText.constEnd() ? *kind : find(uuidFromJson(id));
+}
 
 std::unique_ptr<IVDeviceConfig> Prototypes::create(const QJsonObject &envelope) const
 {
-    const IVDeviceConfig *const prototype = find(envelope);
+    const IVDeviceConfig *const prototype = find(envelope).prototype;
     if (prototype == nullptr)
         return nullptr;
     std::unique_ptr<IVDeviceConfig> config(static_cast<IVDeviceConfig *>(prototype->clone()));
@@ -94,8 +107,8 @@ std::unique_ptr<IVDeviceConfig> Prototypes::create(const QJsonObject &envelope) 
 
 std::unique_ptr<IVDeviceConfig> Prototypes::create(const VJsonTextObject &envelope) const
 {
-    const IVDeviceConfig *const prototype = find(envelope);
-    if (codecOf(prototype) == nullptr)
+    const auto [prototype, codec] = find(envelope);
+    if (codec == nullptr)
         return prototype != nullptr ? create(envelope.toJsonObject()) : nullptr;
     std::unique_ptr<IVDeviceConfig> config(static_cast<IVDeviceConfig *>(prototype->clone()));
     static_cast<VDeviceConfig &>(*config).readText(envelope, *this);
@@ -123,7 +136,7 @@ void VDeviceConfig::unregisterConfig(const IVDeviceConfig *prototype)
 
 bool VDeviceConfig::isRegistered(const QUuid &id)
 {
-    return registeredPrototypes()->byKind.contains(id);
+    return registeredPrototypes()->byId.contains(id);
 }
 
 IVDeviceConfig *VDeviceConfig::fromJson(const QByteArray &json)
@@ -140,8 +153,7 @@ IVDeviceConfig *VDeviceConfig::fromJson(const VBytes &json)
         return configFromTree(json.toByteArray());
     const auto prototypes = registeredPrototypes();
     const VJsonTextObject envelope = text.object();
-    const IVDeviceConfig *const prototype = prototypes->find(envelope);
-    const VDeviceConfigCodec *const codec = codecOf(prototype);
+    const auto [prototype, codec] = prototypes->find(envelope);
     QExplicitlySharedDataPointer<LateConfig> late;
     if (codec != nullptr)
         late = LateConfig::create(json, envelope, prototypes, *codec);

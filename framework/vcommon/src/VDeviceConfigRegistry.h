@@ -6,8 +6,10 @@
 #include <vcommon/IVDeviceConfig.h>
 #include <vcore/VJsonText.h>
 
+#include <QtCore/QByteArray>
 #include <QtCore/QHash>
 #include <QtCore/QJsonObject>
+#include <QtCore/QUuid>
 
 #include <memory>
 
@@ -19,14 +21,25 @@ class VDeviceConfigCodec;
 class Prototypes
 {
 public:
-    QHash<QUuid, const Interfaces::IVDeviceConfig *> byKind;
+    struct Kind
+    {
+        const Interfaces::IVDeviceConfig *prototype = nullptr;
+        const VDeviceConfigCodec *codec = nullptr; ///< Of its records; null when they have none.
+    };
 
-    /// The prototype of the kind that an envelope names; null when it is not registered.
-    template<typename Object>
-    const Interfaces::IVDeviceConfig *find(const Object &envelope) const;
+    QHash<QUuid, Kind> byId;
+    /// The same by the text that records are written with: most ids need no reading then.
+    QHash<QByteArray, Kind> byText;
+
+    /// The kind that an envelope names; one without a prototype when it is not registered.
+    Kind find(const QJsonObject &envelope) const;
+    Kind find(const VJsonTextObject &envelope) const;
     /// A record as `envelope` describes it; null when its kind is not registered or refuses it.
     std::unique_ptr<Interfaces::IVDeviceConfig> create(const QJsonObject &envelope) const;
     std::unique_ptr<Interfaces::IVDeviceConfig> create(const VJsonTextObject &envelope) const;
+
+private:
+    Kind find(const QUuid &id) const;
 };
 
 /// What is registered now. What is registered later does not show in it.
