@@ -55,6 +55,7 @@ private Q_SLOTS:
     void purge_takesThePendingBatchIn();
     void purge_needsAnAccessForWriting();
     void purge_inAFolderThatTakesNoFileFailsAndHarmsNothing();
+    void purge_thatFailedLeavesNothingToBeWritten();
     void purge_ofALongLivedStoreWritesWhatThatOfANewOneDoes();
     void reindex_readsTheFileAnew();
     void reindex_ofAFileThatIsNowKeyedNeedsTheKey();
@@ -289,6 +290,31 @@ void tst_VDBTextPurge::purge_inAFolderThatTakesNoFileFailsAndHarmsNothing()
     QVERIFY(commit(&other, {{u"B"_s, u"2"_s}})); // It does not hold the others up.
     QVERIFY(store.open(&file));
     QVERIFY(store.contains(u"B"_s));
+}
+
+// The store holds no lock any more, and knows no longer what is in the file.
+void tst_VDBTextPurge::purge_thatFailedLeavesNothingToBeWritten()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(u"a.tdb"_s));
+    VDBText store;
+    QVERIFY(createStore(store, &file));
+    store.insert(record(u"A"_s, u"1"_s));
+    store.close();
+    const QByteArray before = contentOf(file.fileName());
+    const QString obstacle = file.fileName() + u".new"_s;
+    QVERIFY(QDir(folder.path()).mkpath(obstacle + u"/inside"_s));
+    QVERIFY(store.open(&file));
+    QVERIFY(!store.purge());
+    QVERIFY(QDir(obstacle).removeRecursively());
+    QCOMPARE(store.count(), 1);
+    QVERIFY(!store.insert(record(u"B"_s, u"2"_s)));
+    QVERIFY(!store.remove(u"A"_s));
+    QVERIFY(!store.purge());
+    store.close();
+    QCOMPARE(contentOf(file.fileName()), before);
+    QVERIFY(commit(&file, {{u"B"_s, u"2"_s}}));
+    QCOMPARE(readStore(&file).sound.size(), 2);
 }
 
 // The one knows its file from its own commits, the other from reading it.

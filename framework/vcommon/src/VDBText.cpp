@@ -77,12 +77,12 @@ QString VDBText::key()
 
 bool VDBText::insert(const VDBRecord &record)
 {
-    return isOpen() && d->intent == Device::Intent::Write && d->addToBatch(record);
+    return isOpen() && d->mayWrite && d->addToBatch(record);
 }
 
 bool VDBText::remove(const QString &id)
 {
-    if (!isOpen() || d->intent == Device::Intent::Read || !contains(id))
+    if (!isOpen() || !d->mayWrite || !contains(id))
         return false;
     d->batch.remove(id);
     return true;
@@ -95,7 +95,7 @@ bool VDBText::contains(const QString &id)
 
 bool VDBText::purge()
 {
-    if (!isOpen() || d->intent == Device::Intent::Read)
+    if (!isOpen() || !d->mayWrite)
         return false;
     d->wasDurable = d->batch.isEmpty() || d->writeBatch();
     d->batch.clear();
@@ -103,7 +103,9 @@ bool VDBText::purge()
         return true;
     d->forget();
     d->status = VDBStatus::Io;
-    // The access stays, as promised, but must not keep other processes waiting.
+    // The access stays, as promised, but must not keep other processes waiting. They may write now,
+    // so that this access no longer may.
+    d->mayWrite = false;
     d->access.unlock();
     return false;
 }

@@ -38,6 +38,7 @@ bool VDBTextPrivate::begin(QIODevice *device, Device::Intent newIntent)
     batch.clear();
     forgetBytes();
     wasDurable = true;
+    mayWrite = intent == Device::Intent::Write;
     status = access.open(device, newIntent, lockTimeout);
     return status == VDBStatus::Ok;
 }

@@ -48,6 +48,7 @@ public:
     QByteArray lastBytes; ///< The last ones before the end of the content.
 
     // Only while open.
+    bool mayWrite = false;
     Batch batch;
     QByteArray bytes;
     bool hasBytes = false;
