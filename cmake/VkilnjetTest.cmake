@@ -35,3 +35,14 @@ endfunction()
 function(vkilnjet_torture)
     set_tests_properties(${ARGN} PROPERTIES LABELS torture TIMEOUT 1800)
 endfunction()
+
+# vkilnjet_watch_file_calls(TARGET...)
+#
+# Gives these programs the functions of tests/support/FileCalls.h.
+function(vkilnjet_watch_file_calls)
+    foreach(target IN LISTS ARGN)
+        target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests/support/FileCalls.cpp")
+        target_link_libraries(${target} PRIVATE ${CMAKE_DL_LIBS})
+        set_target_properties(${target} PROPERTIES ENABLE_EXPORTS ON)
+    endforeach()
+endfunction()

@@ -14,14 +14,16 @@
 
 namespace Norvane::Platform {
 
-/// Tells one state of a file from any other, without reading it.
+/// Which file it is, and what can be told of its state without reading it.
+///
+/// There are no times in it: since Linux 6.13 a file whose times somebody asks for gets new ones at
+/// its next write, and the sync behind that takes half as long again.
 struct FileIdentity
 {
     std::uint64_t volume = 0;
     std::array<std::uint64_t, 2> file = {};
     std::int64_t size = 0;
-    std::int64_t modified = 0; ///< When, in the file system's finest unit.
-    std::int64_t changed = 0; ///< Likewise, for the file's own data: permissions, links.
+    bool isRegular = false; ///< No folder, no pipe, no device.
 
     bool isSameFileAs(const FileIdentity &other) const
     {
@@ -32,43 +34,6 @@ struct FileIdentity
 
 std::optional<FileIdentity> fileIdentity(int handle);
 std::optional<FileIdentity> fileIdentity(const std::filesystem::path &path);
-
-/// Locks the open file against other openings of it, in this process or another: alone, or together
-/// with others who only read. False when `timeout` passed first. The lock ends with the process.
-/// It keeps nobody from reading and writing who does not ask for it.
-[[nodiscard]] bool lockFile(int handle, bool alone, std::chrono::milliseconds timeout);
-void unlockFile(int handle);
-
-/// Reads from a place in the file, on any thread; how much it was, less than `size` only at the end
-/// of the file, or -1. Afterwards the file's position may be another.
-[[nodiscard]] std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size);
-
-/// Says that all of this fresh memory is about to be filled, so that the system may give it in
-/// large pages.
-void expectUse(char *memory, std::int64_t size);
-
-/// Another handle of the same open file, or -1.
-[[nodiscard]] int duplicateHandle(int handle);
-void closeHandle(int handle);
-
-/// Makes the file's content survive a power cut.
-[[nodiscard]] bool syncFile(int handle);
-/// Makes the entry of `path` in its folder survive a power cut.
-[[nodiscard]] bool syncFolderOf(const std::filesystem::path &path);
-
-/// Gives the file `to` the owner and permissions of the file `from`, as far as we may.
-void copyPermissions(int from, int to);
-/// Puts the file `from` in the place of the file `to`, in one step. Either may be open, see
-/// kReplacesAnyOpenFile.
-[[nodiscard]] bool replaceFile(const std::filesystem::path &from, const std::filesystem::path &to);
-
-#ifdef _WIN32
-/// Whether replaceFile() works on files however they were opened; otherwise on those that
-/// openReplaceable() has opened.
-inline constexpr bool kReplacesAnyOpenFile = false;
-#else
-inline constexpr bool kReplacesAnyOpenFile = true;
-#endif
 
 enum class Access
 {
@@ -83,10 +48,42 @@ enum class Existence
     Refused
 };
 
-/// Opens a file so that replaceFile() works on it meanwhile; -1 when it cannot be. There is such a
-/// function only where it is needed.
-[[nodiscard]] int openReplaceable(const std::filesystem::path &path, Access access,
-                                  Existence existence);
+/// Opens a file so that replaceFile() works on it meanwhile, and makes one that is missing unless
+/// it is required; -1 when that cannot be.
+[[nodiscard]] int openFile(const std::filesystem::path &path, Access access, Existence existence);
+void closeHandle(int handle);
+
+/// Locks the open file against other openings of it, in this process or another: alone, or together
+/// with others who only read. False when `timeout` passed first. The lock ends with the process.
+/// It keeps nobody from reading and writing who does not ask for it.
+[[nodiscard]] bool lockFile(int handle, bool alone, std::chrono::milliseconds timeout);
+void unlockFile(int handle);
+
+/// Reads from a place in the file, on any thread; how much it was, less than `size` only at the end
+/// of the file, or -1. Afterwards the file's position may be another.
+[[nodiscard]] std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size);
+
+/// Writes all of it to a place in the file. Of much, the system is told to bring what is written to
+/// the disk at once, so that less is left for syncFile(). Afterwards the file's position may be
+/// another.
+[[nodiscard]] bool writeFileAt(int handle, std::int64_t at, const char *from, std::int64_t size);
+/// Cuts the file, or lengthens it by zeros.
+[[nodiscard]] bool resizeFile(int handle, std::int64_t size);
+
+/// Says that all of this fresh memory is about to be filled, so that the system may give it in
+/// large pages.
+void expectUse(char *memory, std::int64_t size);
+
+/// Makes the file's content survive a power cut.
+[[nodiscard]] bool syncFile(int handle);
+/// Makes the entry of `path` in its folder survive a power cut.
+[[nodiscard]] bool syncFolderOf(const std::filesystem::path &path);
+
+/// Gives the file `to` the owner and permissions of the file `from`, as far as we may.
+void copyPermissions(int from, int to);
+/// Puts the file `from` in the place of the file `to`, in one step. On Windows, no handle may be
+/// open of either but openFile()'s.
+[[nodiscard]] bool replaceFile(const std::filesystem::path &from, const std::filesystem::path &to);
 
 /// The system's number for the last failure in this thread, as qt_error_string() takes it.
 int lastError();

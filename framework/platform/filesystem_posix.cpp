@@ -28,32 +28,64 @@ int retried(Call call)
     return result;
 }
 
-std::int64_t nanoseconds(const timespec &time)
+/// So much is worth being written to the disk before it is synced.
+constexpr std::int64_t kWorthStarting = std::int64_t(2) * 1024 * 1024;
+
+/// Asks for the state of the path, or of the handle when the path is empty.
+std::optional<FileIdentity> identityOf(int handle, const char *path)
 {
-    return std::int64_t(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+#if defined(__linux__)
+    struct statx data = {};
+    const int flags = path[0] == '\0' ? AT_EMPTY_PATH : 0;
+    if (::statx(handle, path, flags, STATX_TYPE | STATX_INO | STATX_SIZE, &data) != 0)
+        return std::nullopt;
+    return FileIdentity{.volume = std::uint64_t(data.stx_dev_major) << 32 | data.stx_dev_minor,
+                        .file = {data.stx_ino, 0},
+                        .size = std::int64_t(data.stx_size),
+                        .isRegular = S_ISREG(data.stx_mode)};
+#else
+    struct stat data = {};
+    if ((path[0] == '\0' ? ::fstat(handle, &data) : ::stat(path, &data)) != 0)
+        return std::nullopt;
+    return FileIdentity{.volume = std::uint64_t(data.st_dev),
+                        .file = {std::uint64_t(data.st_ino), 0},
+                        .size = std::int64_t(data.st_size),
+                        .isRegular = S_ISREG(data.st_mode)};
+#endif
 }
 
-FileIdentity identityOf(const struct stat &data)
+/// A hint that changes nothing but when the disk is busy.
+void startWriting([[maybe_unused]] int handle, [[maybe_unused]] std::int64_t at,
+                  [[maybe_unused]] std::int64_t size)
 {
-    return {.volume = std::uint64_t(data.st_dev),
-            .file = {std::uint64_t(data.st_ino), 0},
-            .size = std::int64_t(data.st_size),
-            .modified = nanoseconds(data.st_mtim),
-            .changed = nanoseconds(data.st_ctim)};
+#if defined(__linux__)
+    ::sync_file_range(handle, at, size, SYNC_FILE_RANGE_WRITE);
+#endif
 }
 
 } // namespace
 
 std::optional<FileIdentity> fileIdentity(int handle)
 {
-    struct stat data = {};
-    return ::fstat(handle, &data) == 0 ? std::optional(identityOf(data)) : std::nullopt;
+    return identityOf(handle, "");
 }
 
 std::optional<FileIdentity> fileIdentity(const std::filesystem::path &path)
 {
-    struct stat data = {};
-    return ::stat(path.c_str(), &data) == 0 ? std::optional(identityOf(data)) : std::nullopt;
+    return path.empty() ? std::nullopt : identityOf(AT_FDCWD, path.c_str());
+}
+
+int openFile(const std::filesystem::path &path, Access access, Existence existence)
+{
+    const int flags = (access == Access::Read ? O_RDONLY : O_RDWR)
+        | (existence == Existence::Required ? 0 : O_CREAT)
+        | (existence == Existence::Refused ? O_EXCL : 0) | O_CLOEXEC;
+    return retried([&] { return ::open(path.c_str(), flags, 0666); });
+}
+
+void closeHandle(int handle)
+{
+    ::close(handle);
 }
 
 bool lockFile(int handle, bool alone, std::chrono::milliseconds timeout)
@@ -89,6 +121,25 @@ std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size
     return filled;
 }
 
+bool writeFileAt(int handle, std::int64_t at, const char *from, std::int64_t size)
+{
+    for (std::int64_t done = 0; done < size;) {
+        const auto piece = std::size_t(std::min(size - done, kWorthStarting));
+        const ssize_t written = ::pwrite(handle, from + done, piece, at + done);
+        if (written == 0 || (written < 0 && errno != EINTR))
+            return false;
+        if (written == kWorthStarting)
+            startWriting(handle, at + done, written);
+        done += std::max<ssize_t>(written, 0);
+    }
+    return true;
+}
+
+bool resizeFile(int handle, std::int64_t size)
+{
+    return retried([&] { return ::ftruncate(handle, size); }) == 0;
+}
+
 void expectUse([[maybe_unused]] char *memory, [[maybe_unused]] std::int64_t size)
 {
 #if defined(MADV_HUGEPAGE)
@@ -101,16 +152,6 @@ void expectUse([[maybe_unused]] char *memory, [[maybe_unused]] std::int64_t size
     if (begin < end)
         ::madvise(memory + begin, std::size_t(end - begin), MADV_HUGEPAGE);
 #endif
-}
-
-int duplicateHandle(int handle)
-{
-    return ::fcntl(handle, F_DUPFD_CLOEXEC, 0);
-}
-
-void closeHandle(int handle)
-{
-    ::close(handle);
 }
 
 bool syncFile(int handle)

@@ -26,7 +26,7 @@ constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELE
 constexpr DWORD kLockedByteHigh = 0x40000000;
 
 /// Some file systems refuse larger pieces.
-constexpr std::int64_t kLargestRead = 32 * 1024 * 1024;
+constexpr std::int64_t kLargestPiece = 32 * 1024 * 1024;
 
 /// FileRenameInfoEx, which some versions of MinGW's headers keep back.
 constexpr auto kRenameInfoEx = static_cast<FILE_INFO_BY_HANDLE_CLASS>(22);
@@ -62,18 +62,6 @@ HANDLE systemHandle(int handle)
     return INVALID_HANDLE_VALUE;
 }
 
-/// A descriptor that takes the system's handle over, or -1.
-int descriptorOf(HANDLE handle, int flags)
-{
-    const int descriptor =
-        ::_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), flags | _O_NOINHERIT);
-    if (descriptor < 0) {
-        ::CloseHandle(handle);
-        ::SetLastError(ERROR_TOO_MANY_OPEN_FILES);
-    }
-    return descriptor;
-}
-
 /// The path in the form that may have more than 260 characters.
 std::wstring longPath(const std::filesystem::path &path)
 {
@@ -98,18 +86,15 @@ HANDLE openPath(const std::filesystem::path &path, DWORD access, DWORD creation,
 
 std::optional<FileIdentity> identityOf(HANDLE file)
 {
-    FILE_BASIC_INFO times = {};
     BY_HANDLE_FILE_INFORMATION state = {};
-    if (::GetFileInformationByHandleEx(file, FileBasicInfo, &times, sizeof(times)) == 0
-        || ::GetFileInformationByHandle(file, &state) == 0) {
+    if (::GetFileInformationByHandle(file, &state) == 0)
         return std::nullopt;
-    }
     FileIdentity identity{
         .volume = state.dwVolumeSerialNumber,
         .file = {std::uint64_t(state.nFileIndexHigh) << 32 | state.nFileIndexLow, 0},
         .size = std::int64_t(std::uint64_t(state.nFileSizeHigh) << 32 | state.nFileSizeLow),
-        .modified = times.LastWriteTime.QuadPart,
-        .changed = times.ChangeTime.QuadPart};
+        .isRegular = (state.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0
+            && ::GetFileType(file) == FILE_TYPE_DISK};
     // Not every file system has the longer ids, and some have no others.
     FILE_ID_INFO id = {};
     if (::GetFileInformationByHandleEx(file, FileIdInfo, &id, sizeof(id)) != 0) {
@@ -197,6 +182,30 @@ std::optional<FileIdentity> fileIdentity(const std::filesystem::path &path)
     return file.isOpen() ? identityOf(file.get()) : std::nullopt;
 }
 
+int openFile(const std::filesystem::path &path, Access access, Existence existence)
+{
+    const bool isWritten = access == Access::ReadWrite;
+    const DWORD creation = existence == Existence::Required ? OPEN_EXISTING
+        : existence == Existence::Allowed                   ? OPEN_ALWAYS
+                                                            : CREATE_NEW;
+    const HANDLE file = openPath(path, GENERIC_READ | (isWritten ? GENERIC_WRITE : 0), creation,
+                                 FILE_ATTRIBUTE_NORMAL);
+    if (file == INVALID_HANDLE_VALUE)
+        return -1;
+    const int descriptor = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(file),
+                                             (isWritten ? _O_RDWR : _O_RDONLY) | _O_NOINHERIT);
+    if (descriptor < 0) {
+        ::CloseHandle(file);
+        ::SetLastError(ERROR_TOO_MANY_OPEN_FILES);
+    }
+    return descriptor;
+}
+
+void closeHandle(int handle)
+{
+    ::_close(handle);
+}
+
 bool lockFile(int handle, bool alone, std::chrono::milliseconds timeout)
 {
     const auto deadline = std::chrono::steady_clock::now() + timeout;
@@ -225,7 +234,7 @@ std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size
     std::int64_t filled = 0;
     while (filled < size) {
         OVERLAPPED place = placeOf(at + filled);
-        const auto piece = DWORD(std::min(size - filled, kLargestRead));
+        const auto piece = DWORD(std::min(size - filled, kLargestPiece));
         DWORD got = 0;
         if (::ReadFile(systemHandle(handle), to + filled, piece, &got, &place) == 0
             && ::GetLastError() != ERROR_HANDLE_EOF) {
@@ -238,25 +247,32 @@ std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size
     return filled;
 }
 
+bool writeFileAt(int handle, std::int64_t at, const char *from, std::int64_t size)
+{
+    for (std::int64_t done = 0; done < size;) {
+        OVERLAPPED place = placeOf(at + done);
+        const auto piece = DWORD(std::min(size - done, kLargestPiece));
+        DWORD written = 0;
+        if (::WriteFile(systemHandle(handle), from + done, piece, &written, &place) == 0
+            || written == 0) {
+            return false;
+        }
+        done += written;
+    }
+    return true;
+}
+
+bool resizeFile(int handle, std::int64_t size)
+{
+    FILE_END_OF_FILE_INFO end = {};
+    end.EndOfFile.QuadPart = size;
+    return ::SetFileInformationByHandle(systemHandle(handle), FileEndOfFileInfo, &end, sizeof(end))
+        != 0;
+}
+
 void expectUse(char *, std::int64_t)
 {
     // Windows gives large pages to nobody without a privilege.
-}
-
-int duplicateHandle(int handle)
-{
-    const HANDLE us = ::GetCurrentProcess();
-    HANDLE copy = INVALID_HANDLE_VALUE;
-    if (::DuplicateHandle(us, systemHandle(handle), us, &copy, 0, FALSE, DUPLICATE_SAME_ACCESS)
-        == 0) {
-        return -1;
-    }
-    return descriptorOf(copy, 0);
-}
-
-void closeHandle(int handle)
-{
-    ::_close(handle);
 }
 
 bool syncFile(int handle)
@@ -325,19 +341,6 @@ bool replaceFile(const std::filesystem::path &from, const std::filesystem::path 
         isReplaced = replaceOnce(from, to);
     }
     return isReplaced;
-}
-
-int openReplaceable(const std::filesystem::path &path, Access access, Existence existence)
-{
-    const bool isWritten = access == Access::ReadWrite;
-    const DWORD creation = existence == Existence::Required ? OPEN_EXISTING
-        : existence == Existence::Allowed                   ? OPEN_ALWAYS
-                                                            : CREATE_NEW;
-    const HANDLE file = openPath(path, GENERIC_READ | (isWritten ? GENERIC_WRITE : 0), creation,
-                                 FILE_ATTRIBUTE_NORMAL);
-    if (file == INVALID_HANDLE_VALUE)
-        return -1;
-    return descriptorOf(file, isWritten ? _O_RDWR : _O_RDONLY);
 }
 
 int lastError()

@@ -13,12 +13,6 @@
 #include <iterator>
 #include <string>
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <fcntl.h>
-#endif
-
 using namespace Norvane::Platform;
 using namespace std::chrono_literals;
 
@@ -39,11 +33,7 @@ void check(bool isTrue, const char *condition, int line)
 /// As the store opens its files.
 int openFile(const std::filesystem::path &path)
 {
-#ifdef _WIN32
-    return openReplaceable(path, Access::ReadWrite, Existence::Required);
-#else
-    return ::open(path.c_str(), O_RDWR | O_CLOEXEC);
-#endif
+    return openFile(path, Access::ReadWrite, Existence::Required);
 }
 
 void write(const std::filesystem::path &path, const std::string &text)
@@ -93,7 +83,8 @@ void identities_tellFilesAndStatesApart(const std::filesystem::path &path)
     write(other, "a");
     const int handle = openFile(path);
     const auto before = fileIdentity(handle);
-    CHECK(before.has_value() && before->size == 1);
+    CHECK(before.has_value() && before->size == 1 && before->isRegular);
+    CHECK(!fileIdentity(path.parent_path())->isRegular);
     CHECK(before == fileIdentity(path));
     CHECK(!before->isSameFileAs(*fileIdentity(other)));
     write(path, "ab");
@@ -114,11 +105,47 @@ void reading_endsWithTheFile(const std::filesystem::path &path)
     CHECK(readFileAt(handle, 10, bytes, 1) == 0);
     CHECK(readFileAt(handle, 1000, bytes, 1) == 0);
     CHECK(readFileAt(-1, 0, bytes, 1) == -1);
-    const int copy = duplicateHandle(handle);
     closeHandle(handle);
-    CHECK(textOf(copy) == "0123456789");
-    closeHandle(copy);
-    CHECK(duplicateHandle(-1) == -1);
+}
+
+void opening_makesWhatMayBeMissing(const std::filesystem::path &path)
+{
+    CHECK(openFile(path, Access::ReadWrite, Existence::Required) == -1);
+    CHECK(!std::filesystem::exists(path));
+    const int made = openFile(path, Access::ReadWrite, Existence::Refused);
+    CHECK(made >= 0);
+    CHECK(openFile(path, Access::ReadWrite, Existence::Refused) == -1);
+    CHECK(writeFileAt(made, 0, "content", 7));
+    const int found = openFile(path, Access::Read, Existence::Allowed);
+    CHECK(textOf(found) == "content");
+    CHECK(!writeFileAt(found, 0, "x", 1));
+    CHECK(!resizeFile(found, 1));
+    closeHandle(found);
+    closeHandle(made);
+    CHECK(openFile(path.parent_path() / "missing" / "file", Access::ReadWrite, Existence::Allowed)
+          == -1);
+}
+
+void writing_goesWhereItIsSaid(const std::filesystem::path &path)
+{
+    write(path, "0123456789");
+    const int handle = openFile(path);
+    CHECK(writeFileAt(handle, 2, "ab", 2) && textOf(handle) == "01ab456789");
+    CHECK(writeFileAt(handle, 8, "cdef", 4) && textOf(handle) == "01ab4567cdef");
+    CHECK(writeFileAt(handle, 14, "g", 1)
+          && textOf(handle) == std::string("01ab4567cdef\0\0g", 15));
+    CHECK(writeFileAt(handle, 0, "", 0) && textOf(handle).size() == 15);
+    CHECK(resizeFile(handle, 3) && textOf(handle) == "01a");
+    CHECK(resizeFile(handle, 5) && textOf(handle) == std::string("01a\0\0", 5));
+    std::string large(9'000'001, 'x'); // In several pieces.
+    for (std::size_t i = 0; i < large.size(); i += 1000)
+        large[i] = char('a' + i / 1000 % 26);
+    CHECK(writeFileAt(handle, 1, large.data(), std::int64_t(large.size())));
+    CHECK(syncFile(handle));
+    CHECK(textOf(path) == "0" + large);
+    CHECK(!writeFileAt(-1, 0, "x", 1));
+    CHECK(!resizeFile(-1, 0));
+    closeHandle(handle);
 }
 
 void syncing_works(const std::filesystem::path &path)
@@ -197,6 +224,8 @@ int main(int argc, char **argv)
     locks_holdOffOthers(folder / "locks");
     identities_tellFilesAndStatesApart(folder / "identities");
     reading_endsWithTheFile(folder / "reading");
+    opening_makesWhatMayBeMissing(folder / "opening");
+    writing_goesWhereItIsSaid(folder / "writing");
     syncing_works(folder / "syncing");
     replacing_leavesOneFile(folder / "replacing", isAnyOpen);
     longPaths_work(folder);

@@ -16,7 +16,7 @@ struct FileCall
     {
         Open,
         Close,
-        Harmless, ///< What does not fail on any system: seeking, unlocking.
+        Harmless, ///< What does not fail on any system, or is only a hint: seeking, unlocking.
         Look, ///< Its state, its permissions.
         Lock,
         Read,
@@ -50,7 +50,8 @@ public:
     /// Which files are meant: all below the folder, and itself. To be said before one is open.
     static void watch(const std::string &folder);
     /// Who decides about the calls on them from now on; null for nobody. The judge, who may come
-    /// from any thread, makes no such calls.
+    /// from any thread, makes no such calls. Only what this thread closes counts: the store closes
+    /// a replaced file aside, at no certain moment.
     static void setJudge(const Judge &judge);
 };
 

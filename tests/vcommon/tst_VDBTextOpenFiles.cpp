@@ -60,8 +60,10 @@ private Q_SLOTS:
     void aFile_thatIsReplacedEachTimeCountsAsLocked();
     void aFile_withoutANameNeedsNone();
     void aFile_ofAnotherClassIsAFile();
-    void aFile_thatTheHostClosesTakesNothingMore();
-    void aFile_thatTheHostDeletesIsForgotten();
+    void anOpenFile_thatTheHostClosesTakesNothingMore();
+    void anOpenFile_thatTheHostDeletesIsForgotten();
+    void aClosedFile_onlyTellsTheName();
+    void aName_thatTheSystemWouldCutShortIsRefused();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -160,27 +162,26 @@ void tst_VDBTextOpenFiles::aFile_ofAnotherClassIsAFile()
     QCOMPARE(readStore(&file).sound.size(), 3);
 }
 
-void tst_VDBTextOpenFiles::aFile_thatTheHostClosesTakesNothingMore()
+void tst_VDBTextOpenFiles::anOpenFile_thatTheHostClosesTakesNothingMore()
 {
-    for (const bool isFoundOpen : {false, true}) {
-        QFile file(m_path);
-        QVERIFY(!isFoundOpen || file.open(QIODevice::ReadWrite));
-        VDBText store;
-        store.setKey({}, toWrite());
-        QVERIFY(store.open(&file));
-        QVERIFY(store.insert(record(u"B"_s, u"2"_s)));
-        file.close();
-        store.close();
-        QVERIFY(!store.wasDurable());
-        QVERIFY(!file.isOpen());
-        QCOMPARE(readStore(&file).sound.size(), 1);
-    }
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&file));
+    QVERIFY(store.insert(record(u"B"_s, u"2"_s)));
+    file.close();
+    store.close();
+    QVERIFY(!store.wasDurable());
+    QVERIFY(!file.isOpen());
+    QCOMPARE(readStore(&file).sound.size(), 1);
 }
 
-void tst_VDBTextOpenFiles::aFile_thatTheHostDeletesIsForgotten()
+void tst_VDBTextOpenFiles::anOpenFile_thatTheHostDeletesIsForgotten()
 {
     VDBText store;
     auto file = std::make_unique<QFile>(m_path);
+    QVERIFY(file->open(QIODevice::ReadWrite));
     QVERIFY(store.open(file.get()));
     file.reset();
     QVERIFY(!store.isOpen());
@@ -191,6 +192,39 @@ void tst_VDBTextOpenFiles::aFile_thatTheHostDeletesIsForgotten()
     store.close();
     QFile other(m_path);
     QVERIFY(commit(&other, {{u"B"_s, u"2"_s}})); // Nobody holds its lock.
+}
+
+// Whatever the host does with it meanwhile.
+void tst_VDBTextOpenFiles::aClosedFile_onlyTellsTheName()
+{
+    VDBText store;
+    store.setKey({}, toWrite());
+    auto file = std::make_unique<QFile>(m_path);
+    QVERIFY(store.open(file.get()));
+    QVERIFY(!file->isOpen());
+    QVERIFY(file->open(QIODevice::ReadOnly));
+    QVERIFY(store.insert(record(u"B"_s, u"2"_s)));
+    QVERIFY(store.purge());
+    QVERIFY(file->isOpen());
+    file->setFileName(m_path + u".other"_s);
+    file.reset();
+    QVERIFY(store.isOpen());
+    QVERIFY(store.insert(record(u"C"_s, u"3"_s)));
+    store.close();
+    QVERIFY(store.wasDurable());
+    QFile other(m_path);
+    QCOMPARE(readStore(&other).sound.size(), 3);
+}
+
+void tst_VDBTextOpenFiles::aName_thatTheSystemWouldCutShortIsRefused()
+{
+    QFile file(m_path + QChar(QChar::Null) + u"more"_s);
+    VDBText store;
+    QVERIFY(!store.open(&file));
+    QCOMPARE(store.status(), VDBStatus::NotFound);
+    QVERIFY(!createStore(store, &file));
+    QCOMPARE(store.status(), VDBStatus::Io);
+    QVERIFY(!store.errorString().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_VDBTextOpenFiles)

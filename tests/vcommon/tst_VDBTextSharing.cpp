@@ -105,8 +105,7 @@ void tst_VDBTextSharing::open_waitsForTheFileAndGoesOn()
     QCOMPARE(readStore(&one).sound.size(), 2);
 }
 
-// A batch that is written into filling changes neither the size of the file nor, within one tick of
-// the clock, its times.
+// A batch that is written into filling does not change the size of the file.
 void tst_VDBTextSharing::stores_thatTakeTurnsSeeEachOther()
 {
     constexpr int kTurns = 3000;

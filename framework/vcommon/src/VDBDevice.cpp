@@ -17,6 +17,8 @@
 #include <new>
 #include <system_error>
 #include <tuple>
+#include <typeinfo>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -31,22 +33,19 @@ namespace {
 constexpr std::chrono::seconds kRelockTimeout(10);
 
 /// Content is read and copied in blocks of this size.
-constexpr qint64 kBlock = qint64(1024) * 1024;
+constexpr qint64 kBlock = qint64(2) * 1024 * 1024;
 
 /// From here on memory may come in pages of 2 MB, the usual size of large ones.
-constexpr qint64 kWorthLargePages = 4 * kBlock;
+constexpr qint64 kWorthLargePages = 2 * kBlock;
 
-QIODevice::OpenMode modeFor(Device::Intent intent)
+QIODevice::OpenMode modeFor(Device::Intent intent, bool isNamed)
 {
-    switch (intent) {
-    case Device::Intent::Read:
-        return QIODevice::ReadOnly | QIODevice::Unbuffered | QIODevice::ExistingOnly;
-    case Device::Intent::Write:
-        return QIODevice::ReadWrite | QIODevice::Unbuffered | QIODevice::ExistingOnly;
-    case Device::Intent::Create:
-        break;
-    }
-    return QIODevice::ReadWrite | QIODevice::Unbuffered;
+    const QIODevice::OpenMode access =
+        intent == Device::Intent::Read ? QIODevice::ReadOnly : QIODevice::ReadWrite;
+    if (!isNamed)
+        return access;
+    return access | QIODevice::Unbuffered
+        | (intent == Device::Intent::Create ? QIODevice::NotOpen : QIODevice::ExistingOnly);
 }
 
 /// Writes all of `bytes`, however few the device takes at a time.
@@ -62,13 +61,12 @@ bool writeAll(QIODevice &device, QByteArrayView bytes)
     return file == nullptr || file->flush();
 }
 
-/// Lets a closed file forget what it knows. Once Qt's file has failed to ask the system for the
-/// state of a file, it takes that for a sequential one each time that it is opened.
-void renew(QFileDevice *device)
+/// Whether the device is nothing but the name of a file.
+bool isName(const QIODevice &device)
 {
-    // A file of another class may have ideas of its own about its name.
-    if (device->metaObject() == &QFile::staticMetaObject)
-        static_cast<QFile *>(device)->setFileName(device->fileName());
+    // Not by the meta-object: a class need not have one of its own.
+    return typeid(device) == typeid(QFile) && !device.isOpen()
+        && !static_cast<const QFile &>(device).fileName().isEmpty();
 }
 
 /// Where the file that is to replace the one at `path` is written: always the same place, so that
@@ -113,9 +111,16 @@ qint64 readFileParallel(int handle, qint64 at, char *to, qint64 size, int &failu
 
 } // namespace
 
-QFileDevice *Device::file() const
+bool Device::isFile() const
 {
-    return qobject_cast<QFileDevice *>(m_device.data());
+    return m_handle >= 0 || qobject_cast<QFileDevice *>(m_device.data()) != nullptr;
+}
+
+/// The file's handle; -1 when the host has closed it.
+int Device::handle() const
+{
+    auto *const file = qobject_cast<QFileDevice *>(m_device.data());
+    return file != nullptr ? file->handle() : m_handle;
 }
 
 bool Device::fail(const QString &error)
@@ -134,153 +139,160 @@ VDBStatus Device::open(QIODevice *device, Intent intent, std::chrono::millisecon
         return VDBStatus::NoDevice;
     m_foundMode = device->openMode();
     m_foundPosition = device->isOpen() ? device->pos() : 0;
-    m_device = device;
-    auto *const fileDevice = file();
-    const VDBStatus status = fileDevice != nullptr && !fileDevice->fileName().isEmpty()
-        ? openFile(fileDevice, intent, lockTimeout)
-        : openPlain(device, intent);
+    m_device = isName(*device) ? nullptr : device;
+    auto *const file = qobject_cast<QFileDevice *>(device);
+    m_path = file != nullptr ? file->fileName() : QString();
+    const VDBStatus status = m_path.isEmpty() ? openOnce(intent) : openNamed(intent, lockTimeout);
     if (status != VDBStatus::Ok)
         close();
     return status;
 }
 
-VDBStatus Device::openPlain(QIODevice *device, Intent intent)
+/// Opens the file that the path leads to once it is locked.
+VDBStatus Device::openNamed(Intent intent, std::chrono::milliseconds lockTimeout)
 {
-    if (!device->isOpen()
-        && !device->open(intent == Intent::Read ? QIODevice::ReadOnly : QIODevice::ReadWrite)) {
-        m_error = device->errorString();
-        return VDBStatus::Io;
+    if (m_path.contains(QChar::Null)) { // The system would take the name to end there.
+        m_error = u"not the name of a file"_s;
+        return intent == Intent::Create ? VDBStatus::Io : VDBStatus::NotFound;
     }
-    if (device->isSequential() || !device->isReadable()
-        || (intent != Intent::Read && !device->isWritable())) {
-        m_error = u"the device does not allow it"_s;
-        return VDBStatus::Io;
-    }
-    device->setTextModeEnabled(false);
-    return VDBStatus::Ok;
-}
-
-VDBStatus Device::openFile(QFileDevice *fileDevice, Intent intent,
-                           std::chrono::milliseconds lockTimeout)
-{
-    const QString path = fileDevice->fileName();
     const auto deadline = std::chrono::steady_clock::now() + lockTimeout;
     for (;;) {
-        const QFileInfo info(path);
+        const std::optional<FileIdentity> found = fileIdentity(nativePath(m_path));
         // Opening a pipe would wait for its other end, so nothing but a plain file is opened.
-        if (info.exists() && !info.isFile()) {
+        if (found && !found->isRegular) {
             m_error = u"not a regular file"_s;
             return VDBStatus::Io;
         }
-        if (!info.exists() && intent != Intent::Create)
+        if (!found && intent != Intent::Create)
             return VDBStatus::NotFound;
-        m_hasCreated = !info.exists();
-        const bool foundClosed = m_foundMode == QIODevice::NotOpen;
-        if (foundClosed) {
-            renew(fileDevice);
-            if (!reopen(modeFor(intent)))
-                return VDBStatus::Io;
-        }
-        if (const VDBStatus status = openPlain(fileDevice, intent); status != VDBStatus::Ok)
+        m_hasCreated = !found;
+        if (const VDBStatus status = openOnce(intent); status != VDBStatus::Ok)
             return status;
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
             deadline - std::chrono::steady_clock::now());
-        m_isLocked = lockFile(fileDevice->handle(), intent != Intent::Read,
+        m_isLocked = lockFile(handle(), intent != Intent::Read,
                               std::max(left, std::chrono::milliseconds(0)));
         if (!m_isLocked) {
             m_error = lastErrorString();
             return VDBStatus::Locked;
         }
         // Whoever held the lock may have swapped another file in; the lock must be on that one.
-        const std::optional<FileIdentity> locked = fileIdentity(fileDevice->handle());
-        const std::optional<FileIdentity> current = fileIdentity(nativePath(path));
-        if (locked && current && locked->isSameFileAs(*current))
+        if (isAtPath())
             return VDBStatus::Ok;
-        if (!locked || (!current && QFileInfo::exists(path))) {
+        if (!identity()) {
             m_error = u"the system does not tell the file's state"_s;
             return VDBStatus::Io;
         }
-        unlock();
-        if (foundClosed)
-            fileDevice->close();
-        else if (!reopen(m_foundMode))
+        if (!letGo())
             return VDBStatus::Io;
         if (std::chrono::steady_clock::now() >= deadline)
             return VDBStatus::Locked;
     }
 }
 
-/// Opens a device that is closed: a file so that it can be replaced while it is open.
-bool Device::openClosed(QIODevice &device, QIODevice::OpenMode mode)
+/// Whether the file that is open is the one that its path leads to.
+bool Device::isAtPath() const
 {
-    // Other classes open their files in ways of their own.
-    if constexpr (!kReplacesAnyOpenFile) {
-        if (device.metaObject() == &QFile::staticMetaObject) {
-            auto &file = static_cast<QFile &>(device);
-            const int handle = openReplaceable(
-                nativePath(file.fileName()),
-                mode.testFlag(QIODevice::WriteOnly) ? Access::ReadWrite : Access::Read,
-                mode.testFlag(QIODevice::NewOnly)            ? Existence::Refused
-                    : mode.testFlag(QIODevice::ExistingOnly) ? Existence::Required
-                                                             : Existence::Allowed);
-            if (handle < 0)
-                return fail(lastErrorString());
-            return file.open(handle, mode, QFileDevice::AutoCloseHandle)
-                || fail(file.errorString());
-        }
+    const std::optional<FileIdentity> opened = identity();
+    const std::optional<FileIdentity> current = fileIdentity(nativePath(m_path));
+    return opened && current && opened->isSameFileAs(*current);
+}
+
+VDBStatus Device::openOnce(Intent intent)
+{
+    if (!m_device.isNull())
+        return openDevice(intent);
+    const bool isRead = intent == Intent::Read;
+    const bool isNew = intent == Intent::Create;
+    m_handle = openFile(nativePath(m_path), isRead ? Access::Read : Access::ReadWrite,
+                        isNew ? Existence::Allowed : Existence::Required);
+    if (m_handle < 0)
+        m_error = lastErrorString();
+    return m_handle >= 0 ? VDBStatus::Ok : VDBStatus::Io;
+}
+
+VDBStatus Device::openDevice(Intent intent)
+{
+    if (!m_device->isOpen() && !reopen(modeFor(intent, !m_path.isEmpty())))
+        return VDBStatus::Io;
+    if (m_device->isSequential() || !m_device->isReadable()
+        || (intent != Intent::Read && !m_device->isWritable())) {
+        m_error = u"the device does not allow it"_s;
+        return VDBStatus::Io;
     }
-    return device.open(mode) || fail(device.errorString());
+    m_device->setTextModeEnabled(false);
+    return VDBStatus::Ok;
 }
 
 bool Device::reopen(QIODevice::OpenMode mode)
 {
     if (m_device->isOpen())
         m_device->close();
-    return openClosed(*m_device, mode);
+    return m_device->open(mode) || fail(m_device->errorString());
+}
+
+/// Lets go of a file that is no longer the one that its path leads to.
+bool Device::letGo()
+{
+    unlock();
+    if (m_handle >= 0)
+        closeHandle(std::exchange(m_handle, -1));
+    else if (m_foundMode == QIODevice::NotOpen)
+        m_device->close();
+    else
+        return reopen(m_foundMode);
+    return true;
 }
 
 void Device::close()
 {
-    if (m_device.isNull())
-        return;
     unlock();
-    if (m_foundMode == QIODevice::NotOpen) {
-        if (m_device->isOpen())
+    if (m_handle >= 0)
+        closeHandle(std::exchange(m_handle, -1));
+    if (!m_device.isNull() && m_device->isOpen()) {
+        if (m_foundMode == QIODevice::NotOpen) {
             m_device->close();
-        // Qt does not find the name of a file again that it was given as a handle.
-        if constexpr (!kReplacesAnyOpenFile) {
-            if (auto *const fileDevice = file())
-                renew(fileDevice);
+        } else {
+            m_device->setTextModeEnabled(m_foundMode.testFlag(QIODevice::Text));
+            m_device->seek(m_foundPosition);
         }
-    } else if (m_device->isOpen()) {
-        m_device->setTextModeEnabled(m_foundMode.testFlag(QIODevice::Text));
-        m_device->seek(m_foundPosition);
     }
     m_device = nullptr;
 }
 
 void Device::unlock()
 {
-    if (m_isLocked && file() != nullptr && file()->isOpen())
-        unlockFile(file()->handle());
+    if (m_isLocked && handle() >= 0)
+        unlockFile(handle());
     m_isLocked = false;
 }
 
 std::optional<FileIdentity> Device::identity() const
 {
-    return file() != nullptr ? fileIdentity(file()->handle()) : std::nullopt;
+    return isFile() ? fileIdentity(handle()) : std::nullopt;
+}
+
+qint64 Device::size()
+{
+    if (!m_device.isNull())
+        return m_device->size();
+    const std::optional<FileIdentity> state = identity();
+    if (!state)
+        m_error = lastErrorString();
+    return state ? state->size : -1;
 }
 
 std::optional<QByteArray> Device::readAll()
 {
-    return read(0, m_device->size());
+    const qint64 all = size();
+    return all < 0 ? std::nullopt : read(0, all);
 }
 
 std::optional<QByteArray> Device::read(qint64 at, qint64 size)
 {
     QByteArray bytes;
     try {
-        bytes.resize(std::max(std::min(size, m_device->size() - at), qint64(0)));
+        bytes.resize(size);
     } catch (const std::bad_alloc &) {
         fail(u"not enough memory for the file"_s);
         return std::nullopt;
@@ -291,15 +303,16 @@ std::optional<QByteArray> Device::read(qint64 at, qint64 size)
 /// Fills `bytes` behind the first `from` with the content at `at`; cuts it where content ends.
 bool Device::readInto(QByteArray &bytes, qsizetype from, qint64 at)
 {
-    if (!m_device->seek(at)) // Whoever opened the device may have left something to be flushed.
+    // Whoever opened the device may have left something to be flushed.
+    if (!m_device.isNull() && !m_device->seek(at))
         return fail(m_device->errorString());
     const qint64 size = bytes.size() - from;
     char *const to = bytes.data() + from;
-    if (file() != nullptr) {
+    if (isFile()) {
         if (size >= kWorthLargePages)
             expectUse(to, size);
         int failure = 0;
-        const qint64 filled = readFileParallel(file()->handle(), at, to, size, failure);
+        const qint64 filled = readFileParallel(handle(), at, to, size, failure);
         bytes.truncate(from + std::max(filled, qint64(0)));
         return filled >= 0 || fail(qt_error_string(failure));
     }
@@ -318,27 +331,31 @@ bool Device::readInto(QByteArray &bytes, qsizetype from, qint64 at)
 
 bool Device::write(qint64 at, QByteArrayView bytes)
 {
+    if (m_handle >= 0)
+        return writeFileAt(m_handle, at, bytes.data(), bytes.size()) || fail(lastErrorString());
     return (m_device->seek(at) && writeAll(*m_device, bytes)) || fail(m_device->errorString());
 }
 
 void Device::fillAhead(qint64 at, qint64 size)
 {
-    if (file() != nullptr && m_device->seek(at))
-        std::ignore = writeAll(*m_device, QByteArray(size, '\n'));
+    if (isFile())
+        std::ignore = write(at, QByteArray(size, '\n'));
 }
 
 bool Device::sync()
 {
-    if (auto *const fileDevice = file())
-        return syncFile(fileDevice->handle()) || fail(lastErrorString());
+    if (isFile())
+        return syncFile(handle()) || fail(lastErrorString());
     auto *const durable = dynamic_cast<IVDurableDevice *>(m_device.data());
     return durable == nullptr || durable->sync() || fail(m_device->errorString());
 }
 
 bool Device::truncate(qint64 size)
 {
-    if (auto *const fileDevice = file())
-        return fileDevice->resize(size) || fail(fileDevice->errorString());
+    if (m_handle >= 0)
+        return resizeFile(m_handle, size) || fail(lastErrorString());
+    if (auto *const file = qobject_cast<QFileDevice *>(m_device.data()))
+        return file->resize(size) || fail(file->errorString());
     if (auto *const buffer = qobject_cast<QBuffer *>(m_device.data())) {
         buffer->buffer().resize(size);
         return true;
@@ -348,28 +365,26 @@ bool Device::truncate(qint64 size)
 
 bool Device::syncCreation()
 {
-    return file() == nullptr || syncFolderOf(nativePath(file()->fileName()))
-        || fail(lastErrorString());
+    return !isFile() || syncFolderOf(nativePath(m_path)) || fail(lastErrorString());
 }
 
 void Device::removeCreated()
 {
     if (m_hasCreated)
-        QFile::remove(file()->fileName());
+        QFile::remove(m_path);
 }
 
 bool Device::replaceContent(const std::vector<ContentPart> &parts)
 {
-    return file() != nullptr && !file()->fileName().isEmpty() ? swapFile(file(), parts)
-                                                              : overwrite(parts);
+    return m_path.isEmpty() ? overwrite(parts) : swapFile(parts);
 }
 
-bool Device::copyParts(const std::vector<ContentPart> &parts, QIODevice &to)
+bool Device::copyParts(const std::vector<ContentPart> &parts, const Writer &write)
 {
     QByteArray block;
     block.reserve(kBlock);
     const auto isWritten = [&] {
-        const bool ok = writeAll(to, block) || fail(to.errorString());
+        const bool ok = write(block);
         block.resize(0);
         return ok;
     };
@@ -393,62 +408,76 @@ bool Device::copyParts(const std::vector<ContentPart> &parts, QIODevice &to)
 
 bool Device::overwrite(const std::vector<ContentPart> &parts)
 {
-    QBuffer content;
-    content.open(QIODevice::WriteOnly);
-    if (!copyParts(parts, content))
+    QByteArray content;
+    const auto append = [&](QByteArrayView bytes) {
+        content.append(bytes);
+        return true;
+    };
+    if (!copyParts(parts, append))
         return false;
-    const QByteArray &bytes = content.data();
-    const qint64 surplus = m_device->size() - bytes.size();
-    if (!write(0, bytes))
+    const qint64 surplus = m_device->size() - content.size();
+    if (!write(0, content))
         return false;
     // Blank lines fill what a device that cannot be cut has left over.
-    if (surplus > 0 && !truncate(bytes.size()) && !write(bytes.size(), QByteArray(surplus, '\n')))
+    if (surplus > 0 && !truncate(content.size())
+        && !write(content.size(), QByteArray(surplus, '\n')))
         return false;
     m_isAsReplaced = true;
     return sync();
 }
 
-bool Device::swapFile(QFileDevice *fileDevice, const std::vector<ContentPart> &parts)
+bool Device::swapFile(const std::vector<ContentPart> &parts)
 {
     // Behind a symbolic link the file itself is replaced, not the link.
-    const QString path = QFileInfo(fileDevice->fileName()).canonicalFilePath();
-    QFile fresh(freshPathOf(path));
+    const QString path = QFileInfo(m_path).canonicalFilePath();
+    const QString freshPath = freshPathOf(path);
     // Left by a crash; nobody else writes it while we hold the lock.
-    QFile::remove(fresh.fileName());
-    const QIODevice::OpenMode mode = m_device->openMode();
-    const auto giveUp = [&](const QString &error) {
-        fresh.close();
-        QFile::remove(fresh.fileName());
-        return fail(error);
+    QFile::remove(freshPath);
+    const int fresh = openFile(nativePath(freshPath), Access::ReadWrite, Existence::Refused);
+    if (fresh < 0)
+        return fail(lastErrorString());
+    copyPermissions(handle(), fresh);
+    qint64 end = 0;
+    const auto append = [&](QByteArrayView bytes) {
+        const qint64 at = std::exchange(end, end + bytes.size());
+        return writeFileAt(fresh, at, bytes.data(), bytes.size()) || fail(lastErrorString());
     };
-    if (!openClosed(fresh, QIODevice::ReadWrite | QIODevice::Unbuffered | QIODevice::NewOnly))
+    // It is locked before anybody can find it.
+    const bool isReady = copyParts(parts, append)
+        && ((syncFile(fresh) && lockFile(fresh, true, std::chrono::milliseconds(0))
+             && replaceFile(nativePath(freshPath), nativePath(path)))
+            || fail(lastErrorString()));
+    if (!isReady) {
+        closeHandle(fresh);
+        QFile::remove(freshPath);
         return false;
-    copyPermissions(fileDevice->handle(), fresh.handle());
-    if (!copyParts(parts, fresh))
-        return giveUp(m_error);
-    const qint64 written = fresh.size();
-    if (!syncFile(fresh.handle()) || !replaceFile(nativePath(fresh.fileName()), nativePath(path)))
-        return giveUp(lastErrorString());
+    }
     const bool isSynced = syncFolderOf(nativePath(path)) || fail(lastErrorString());
+    return takeUp(fresh) && isSynced;
+}
+
+/// Goes on with the file that was swapped in, whose handle is given.
+bool Device::takeUp(int fresh)
+{
+    if (m_handle >= 0) {
+        unlock();
+        closeLater(std::exchange(m_handle, fresh));
+        m_isLocked = m_isAsReplaced = true;
+        return true;
+    }
+    const QIODevice::OpenMode mode = m_device->openMode();
     unlock();
-    closeLater(duplicateHandle(fileDevice->handle()));
-    if (!reopen(mode))
-        return false;
-    m_isLocked = lockFile(fileDevice->handle(), true, kRelockTimeout);
-    // Others may have been quicker to lock the new file. What they append makes it longer, since
-    // there is no filling in it, and what they swap in is another file as long as ours is open.
-    const std::optional<FileIdentity> ours = fileIdentity(fresh.handle());
-    const std::optional<FileIdentity> found = identity();
-    m_isAsReplaced = ours && found && ours->isSameFileAs(*found) && fresh.size() == written;
-    return isSynced && m_isLocked;
+    closeHandle(fresh);
+    m_isLocked =
+        reopen(mode) && (lockFile(handle(), true, kRelockTimeout) || fail(lastErrorString()));
+    // Others may have been quicker, and have swapped in another file again.
+    return m_isLocked && (isAtPath() || fail(u"another process has replaced the file"_s));
 }
 
 /// Closes the last handle of a replaced file aside: it is then that the system frees its space,
 /// which for a large file takes longer than all the rest.
 void Device::closeLater(int handle)
 {
-    if (handle < 0)
-        return;
     try {
         m_closing = std::jthread([handle] { closeHandle(handle); });
     } catch (const std::system_error &) {

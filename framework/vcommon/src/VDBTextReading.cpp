@@ -45,10 +45,10 @@ bool VDBTextPrivate::begin(QIODevice *device, Device::Intent newIntent)
 
 /// Whether the file is still as this store left it.
 ///
-/// A batch written into filling changes neither the size of the file nor, within one tick of the
-/// file system's clock, its times. But every batch begins where content ended and with another byte
-/// than a line feed, so the filling there tells. The bytes before it tell the rare file that was
-/// swapped in meanwhile under the same number: they hold the digest of a batch.
+/// A batch written into filling does not change the size of the file. But every batch begins where
+/// content ended and with another byte than a line feed, so the filling there tells. The bytes
+/// before it tell the rare file that was swapped in meanwhile under the same number: they hold the
+/// digest of a batch.
 bool VDBTextPrivate::isUnchanged()
 {
     const std::optional<FileIdentity> found = access.identity();

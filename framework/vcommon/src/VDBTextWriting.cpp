@@ -66,6 +66,8 @@ bool VDBTextPrivate::syncTail()
         return access.sync();
     const QByteArray repair = tailRepair();
     const qint64 sizeBefore = access.size();
+    if (sizeBefore < 0)
+        return false;
     if (!access.write(contents.end, repair) || !access.sync()) {
         takeBack(sizeBefore, repair.size());
         return false;
@@ -85,6 +87,8 @@ bool VDBTextPrivate::writeBatch()
     const QByteArray repair = tailRepair();
     EncodedBatch encoded = batch.encode(signer, repair);
     const qint64 sizeBefore = access.size();
+    if (sizeBefore < 0)
+        return false;
     const qint64 end = contents.end + encoded.bytes.size();
     const bool isWritten = access.write(contents.end, encoded.bytes);
     if (isWritten && end + qint64(sizeof(kSeal)) > sizeBefore)

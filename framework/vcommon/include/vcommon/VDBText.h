@@ -29,8 +29,8 @@ class VDBTextPrivate;
 /// key any file can be read, and a file without a key also written. setKey()'s second argument says
 /// what the next open() is for: empty but not null to read, null to write.
 ///
-/// The device is a closed QFile, which the store opens and closes, or any random-access device
-/// given open or closed; it is left as it was found and stays the caller's.
+/// The device is a closed QFile, which stays closed and only tells the name of the file, or any
+/// random-access device given open or closed; it is left as it was found and stays the caller's.
 ///
 /// Threads: one at a time.
 /// Failures: bool results, status() and errorString(). Nothing throws, nothing is logged. A file
