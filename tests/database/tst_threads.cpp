@@ -126,6 +126,7 @@ void tst_threads::databasesOnOneFile_loseNoEdit()
     const Watchdog watchdog("many databases on one file");
     // Which of them creates the file is left to chance.
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&, i] {
             VPrintersDb database(path(u"shared.tdb"_s), QString());
@@ -148,6 +149,7 @@ void tst_threads::edits_fromManyThreadsAreAllThere()
     VPrintersDb database(&buffer, QString());
     database.init(true);
     std::vector<std::thread> threads;
+    threads.reserve(8);
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([&, i] {
             for (int n = 0; n < 25; ++n) {

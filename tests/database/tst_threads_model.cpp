@@ -124,6 +124,7 @@ void tst_threads_model::randomOperations_agreeWithTheModel()
     const quint32 first = seed();
     const int steps = rounds(100, 1'000);
     std::vector<Part> parts;
+    parts.reserve(kThreads);
     for (int i = 0; i < kThreads; ++i)
         parts.emplace_back(i, first, folder.path());
     VPrintersDb database(path, u"key"_s);

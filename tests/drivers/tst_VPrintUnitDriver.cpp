@@ -270,10 +270,9 @@ void tst_VPrintUnitDriver::clone_isEqualAndIndependent()
 {
     const VPrintUnitDriver unit = unitWith({Channel::Cyan});
     const std::unique_ptr<Norvane::Interfaces::ICloneable> clone(unit.clone());
-    auto *copy = dynamic_cast<VPrintUnitDriver *>(clone.get());
-    QVERIFY(copy != nullptr);
-    QVERIFY(*copy == unit);
-    copy->setChannels({});
+    auto &copy = dynamic_cast<VPrintUnitDriver &>(*clone);
+    QVERIFY(copy == unit);
+    copy.setChannels({});
     QCOMPARE(unit.channels(), QList{Channel::Cyan});
 }
 

@@ -252,6 +252,7 @@ void tst_VPrinterDriver::copies_ofWhatEqualsNothingAreUnequal()
     VPrinterDriver driver(kSpace);
     driver.insert(&method, false);
     const VPrinterDriver copy = driver;
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): copies are what is tested.
     const VPrinterDriver second = copy;
     QVERIFY(driver != copy); // No number is not equal to itself, however copies are made.
     QVERIFY(copy != second);
@@ -262,14 +263,13 @@ void tst_VPrinterDriver::clone_isEqualAndIndependent()
 {
     const VPrinterDriver driver = validPrinter(kSpace);
     const std::unique_ptr<Norvane::Interfaces::ICloneable> clone(driver.clone());
-    auto *copy = dynamic_cast<VPrinterDriver *>(clone.get());
-    QVERIFY(copy != nullptr);
-    QVERIFY(*copy == driver);
-    copy->setExperimental(true);
-    copy->values(QUuid()).first()->setName(u"Other"_s);
+    auto &copy = dynamic_cast<VPrinterDriver &>(*clone);
+    QVERIFY(copy == driver);
+    copy.setExperimental(true);
+    copy.values(QUuid()).first()->setName(u"Other"_s);
     QVERIFY(driver == driver);
     QVERIFY(!driver.experimental());
-    QVERIFY(driver != *copy);
+    QVERIFY(driver != copy);
 }
 
 void tst_VPrinterDriver::fromJson_rebuildsTheDriver()

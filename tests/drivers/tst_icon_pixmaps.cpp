@@ -288,6 +288,7 @@ void tst_icon_pixmaps::iconOfTheHost_isStoredAndComparedAsItIs()
 void tst_icon_pixmaps::icon_isBuiltOnceAndKeepsItsCacheKey()
 {
     const VPrinterDriver driver = driverWith({iconElement(encoded(testImage(16, 16)))});
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): copies are what is tested.
     const VPrinterDriver copy = driver;
     QCOMPARE(driver.icon().cacheKey(), driver.icon().cacheKey());
     QCOMPARE(copy.icon().cacheKey(), driver.icon().cacheKey());

@@ -93,6 +93,7 @@ void tst_icon_without_gui::records_areHandledWhole()
     const VPrinterDriver driver = driverWith(twoImages());
     QVERIFY(driver.isValid());
     QVERIFY(!driver.isEmpty());
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): copies are what is tested.
     const VPrinterDriver copy = driver;
     QVERIFY(copy == driver);
     QCOMPARE(copy.dataId(), driver.dataId());

@@ -104,14 +104,14 @@ void tst_random_drivers::numbers_comeBackAsJsonKeepsThem()
         driver.setMagnification({number, -number});
         driver.setResolutionList({VResolution(number, 1)});
         const auto back = read(bytesOf(driver));
-        const auto *method = dynamic_cast<const VElaborationDriver *>(back.get());
-        QVERIFY(method != nullptr);
+        QVERIFY(back);
+        const auto &method = dynamic_cast<const VElaborationDriver &>(*back);
         for (qsizetype i = 0; i < numbers.size(); ++i)
-            QVERIFY(method->scrollRatioList().at(i) == asJsonKeepsIt(numbers.at(i)));
-        QVERIFY(!std::signbit(method->scrollRatioList().at(1)));
-        QVERIFY(method->magnification().first == asJsonKeepsIt(number));
-        QVERIFY(method->magnification().second == asJsonKeepsIt(-number));
-        QVERIFY(method->resolutionList().first().x() == asJsonKeepsIt(number));
+            QVERIFY(method.scrollRatioList().at(i) == asJsonKeepsIt(numbers.at(i)));
+        QVERIFY(!std::signbit(method.scrollRatioList().at(1)));
+        QVERIFY(method.magnification().first == asJsonKeepsIt(number));
+        QVERIFY(method.magnification().second == asJsonKeepsIt(-number));
+        QVERIFY(method.resolutionList().first().x() == asJsonKeepsIt(number));
     }
 }
 

@@ -54,6 +54,7 @@ auto onAllThreads(Work work)
     std::vector<decltype(work())> results(kThreads);
     std::barrier start(kThreads);
     std::vector<std::jthread> threads;
+    threads.reserve(results.size());
     for (auto &result : results) {
         threads.emplace_back([&] {
             start.arrive_and_wait();

@@ -41,8 +41,8 @@ qsizetype aligned(qsizetype at)
 QString textAt(const QByteArray &bytes, qsizetype at)
 {
     QString text;
-    for (; const quint16 unit = word(bytes, at); at += 2)
-        text += QChar(unit);
+    for (; word(bytes, at) != 0; at += 2)
+        text += QChar(word(bytes, at));
     return text;
 }
 
@@ -61,7 +61,7 @@ struct Block
         , end(at + word(bytes, at))
         , isText(word(bytes, at + 4) == 1)
     {
-        children = aligned(value + word(bytes, at + 2) * (isText ? 2 : 1));
+        children = aligned(value + qsizetype(word(bytes, at + 2)) * (isText ? 2 : 1));
     }
 };
 

@@ -18,6 +18,7 @@ namespace Support {
 inline void inThreads(int count, const std::function<void(int)> &task)
 {
     std::vector<std::thread> threads;
+    threads.reserve(std::size_t(count));
     for (int i = 0; i < count; ++i)
         threads.emplace_back(task, i);
     for (std::thread &thread : threads)
@@ -41,6 +42,7 @@ inline void onThePool(const std::function<void()> &task)
     });
     pool.waitForDone();
     const std::lock_guard lock(mutex);
+    handedOver = nullptr;
 }
 
 } // namespace Support

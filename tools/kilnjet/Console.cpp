@@ -19,7 +19,7 @@ namespace Norvane::Kilnjet::Tool {
 namespace {
 
 /// How much data is gathered before it is written.
-constexpr qsizetype kFlushSize = 64 * 1024;
+constexpr qsizetype kFlushSize = qsizetype(64) * 1024;
 
 /// The JSON text with the control characters above ASCII's first block escaped as well: a terminal
 /// would obey them.

@@ -26,7 +26,7 @@ namespace Norvane::Kilnjet::Tool {
 
 namespace {
 
-constexpr int kIndent = 2;
+constexpr qsizetype kIndent = 2;
 constexpr int kLabelWidth = 20;
 
 /// The sheet while it is written.

@@ -99,9 +99,9 @@ QList<MachineSummary> readSummaries(const StoreSettings &settings, Console &cons
     });
     // A database keeps one machine for an id, whatever spelling of the id its records stand under.
     QMap<QUuid, MachineSummary> byId;
-    for (std::optional<MachineSummary> &summary : found) {
+    for (const std::optional<MachineSummary> &summary : found) {
         if (summary)
-            byId.insert(summary->id, *std::move(summary));
+            byId.insert(summary->id, *summary);
     }
     warnOfLosses(survey, survey.count - byId.size(), settings.path, console);
     QList<MachineSummary> sorted = byId.values();

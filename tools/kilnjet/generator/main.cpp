@@ -90,7 +90,7 @@ int main(int argc, char *argv[])
         std::fputs("usage: kilnjet_generator FOLDER FORMAT.md DATE\n", stderr);
         return 2;
     }
-    const QString folder = arguments.at(1);
+    const QString &folder = arguments.at(1);
     const Tool::Edition edition{VKilnjetInfo::version().toString(), arguments.at(3)};
     bool ok = writePages(folder + u"/man"_s, arguments.at(2), edition);
     ok = write(folder + u"/bash/kilnjet"_s, Tool::bashCompletion()) && ok;
