@@ -137,9 +137,9 @@ void writing_goesWhereItIsSaid(const std::filesystem::path &path)
     CHECK(writeFileAt(handle, 0, "", 0) && textOf(handle).size() == 15);
     CHECK(resizeFile(handle, 3) && textOf(handle) == "01a");
     CHECK(resizeFile(handle, 5) && textOf(handle) == std::string("01a\0\0", 5));
-    std::string large(9'000'001, 'x'); // In several pieces.
-    for (std::size_t i = 0; i < large.size(); i += 1000)
-        large[i] = char('a' + i / 1000 % 26);
+    std::string large; // Several pieces.
+    for (int i = 0; large.size() < 9'000'000; ++i)
+        large += std::to_string(i);
     CHECK(writeFileAt(handle, 1, large.data(), std::int64_t(large.size())));
     CHECK(syncFile(handle));
     CHECK(textOf(path) == "0" + large);
