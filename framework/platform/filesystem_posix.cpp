@@ -28,8 +28,11 @@ int retried(Call call)
     return result;
 }
 
-/// So much is worth being written to the disk before it is synced.
-constexpr std::int64_t kWorthStarting = std::int64_t(2) * 1024 * 1024;
+/// What is written at once. Of twice as much the system makes one large page, and finding room for
+/// one may take longer than writing it.
+constexpr std::int64_t kPiece = std::int64_t(1024) * 1024;
+/// So much is worth being brought to the disk before it is synced.
+constexpr std::int64_t kWorthStarting = 2 * kPiece;
 
 /// Asks for the state of the path, or of the handle when the path is empty.
 std::optional<FileIdentity> identityOf(int handle, const char *path)
@@ -123,14 +126,17 @@ std::int64_t readFileAt(int handle, std::int64_t at, char *to, std::int64_t size
 
 bool writeFileAt(int handle, std::int64_t at, const char *from, std::int64_t size)
 {
+    std::int64_t started = 0;
     for (std::int64_t done = 0; done < size;) {
-        const auto piece = std::size_t(std::min(size - done, kWorthStarting));
+        const auto piece = std::size_t(std::min(size - done, kPiece));
         const ssize_t written = ::pwrite(handle, from + done, piece, at + done);
         if (written == 0 || (written < 0 && errno != EINTR))
             return false;
-        if (written == kWorthStarting)
-            startWriting(handle, at + done, written);
         done += std::max<ssize_t>(written, 0);
+        if (done - started >= kWorthStarting) {
+            startWriting(handle, at + started, done - started);
+            started = done;
+        }
     }
     return true;
 }
