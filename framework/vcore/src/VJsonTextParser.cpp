@@ -120,7 +120,7 @@ bool isBefore(QByteArrayView a, QByteArrayView b)
 
 } // namespace
 
-class VJsonText::Parser
+class Q_DECL_HIDDEN VJsonText::Parser
 {
 public:
     Parser(QByteArrayView bytes, Tokens &tokens)
