@@ -56,7 +56,6 @@ VPrintersDb::VPrintersDb(const QString &fileName, const QString &key, QObject *p
     : VPrintersDb(static_cast<QIODevice *>(nullptr), key, parent)
 {
     d->device = new QFile(fileName, this);
-    d->isNameless = fileName.isEmpty();
 }
 
 VPrintersDb::VPrintersDb(QIODevice *device, const QString &key, QObject *parent)

@@ -87,7 +87,7 @@ void VPrintersDb::_init()
     const auto guard = d->locked();
     d->setKeyToRead();
     std::optional<QMap<QUuid, VPrinterDriver>> loaded;
-    if (d->hasFile() && openOrCreate(d->store, d->device)) {
+    if (d->device && openOrCreate(d->store, d->device)) {
         loaded = readDrivers(d->store);
         d->store.close();
     }
@@ -108,7 +108,7 @@ void VPrintersDb::_commit()
     if (!d->device || d->dirtyIds.isEmpty())
         return;
     d->setKeyToWrite();
-    if (!d->hasFile() || !d->store.open(d->device)) {
+    if (!d->store.open(d->device)) {
         d->jobs->noteResult();
         Q_EMIT error();
         return;

@@ -63,7 +63,7 @@ bool VPrintersDb::restore(const QString &directory, bool merge)
 bool VPrintersDb::purge()
 {
     const auto guard = d->locked();
-    if (!d->hasFile())
+    if (!d->device)
         return false;
     d->setKeyToWrite();
     if (!d->store.open(d->device))
@@ -79,7 +79,7 @@ bool VPrintersDb::reindex()
 {
     const auto guard = d->lockedAfterJobs();
     // The key is that of the last access, and with it whether that was to write.
-    if (!d->hasFile() || !d->store.open(d->device))
+    if (!d->device || !d->store.open(d->device))
         return false;
     const bool done = d->store.reindex();
     d->store.close();

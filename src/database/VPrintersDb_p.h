@@ -41,9 +41,6 @@ public:
     /// Prepares the store for an access that only reads, or for one that may write.
     void setKeyToRead() { store.setKey(key, QString(0, Qt::Uninitialized)); }
     void setKeyToWrite() { store.setKey(key, QString()); }
-    /// True when there is something to open. A file without a name fails like any other that cannot
-    /// be opened; but Qt would complain of it on the standard error stream.
-    bool hasFile() const { return device && !isNameless; }
     /// The entry under `id`, or an empty driver.
     VPrinterDriver value(const QUuid &id) const
     {
@@ -57,7 +54,6 @@ public:
     QSet<QUuid> volatileIds;
     QString key;
     QIODevice *device = nullptr;
-    bool isNameless = false; ///< The device is a file without a name.
 
     // Without it.
     std::shared_ptr<DbJobs> jobs;

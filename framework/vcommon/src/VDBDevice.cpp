@@ -65,8 +65,7 @@ bool writeAll(QIODevice &device, QByteArrayView bytes)
 bool isName(const QIODevice &device)
 {
     // Not by the meta-object: a class need not have one of its own.
-    return typeid(device) == typeid(QFile) && !device.isOpen()
-        && !static_cast<const QFile &>(device).fileName().isEmpty();
+    return typeid(device) == typeid(QFile) && !device.isOpen();
 }
 
 /// Where the file that is to replace the one at `path` is written: always the same place, so that
@@ -142,7 +141,8 @@ VDBStatus Device::open(QIODevice *device, Intent intent, std::chrono::millisecon
     m_device = isName(*device) ? nullptr : device;
     auto *const file = qobject_cast<QFileDevice *>(device);
     m_path = file != nullptr ? file->fileName() : QString();
-    const VDBStatus status = m_path.isEmpty() ? openOnce(intent) : openNamed(intent, lockTimeout);
+    const VDBStatus status =
+        !m_device.isNull() && m_path.isEmpty() ? openOnce(intent) : openNamed(intent, lockTimeout);
     if (status != VDBStatus::Ok)
         close();
     return status;
@@ -151,7 +151,8 @@ VDBStatus Device::open(QIODevice *device, Intent intent, std::chrono::millisecon
 /// Opens the file that the path leads to once it is locked.
 VDBStatus Device::openNamed(Intent intent, std::chrono::milliseconds lockTimeout)
 {
-    if (m_path.contains(QChar::Null)) { // The system would take the name to end there.
+    // The system would take a name to end at a NUL.
+    if (m_path.isEmpty() || m_path.contains(QChar::Null)) {
         m_error = u"not the name of a file"_s;
         return intent == Intent::Create ? VDBStatus::Io : VDBStatus::NotFound;
     }
