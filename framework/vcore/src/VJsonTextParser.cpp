@@ -110,74 +110,97 @@ qsizetype sequenceLength(const char *at, const char *end)
     return 0;
 }
 
-/// Whether `a` sorts before `b`. Mostly their first bytes tell.
-bool isBefore(QByteArrayView a, QByteArrayView b)
+/// The first eight bytes of a name as a number that sorts like them; 0 at the end of the text, where
+/// there are fewer.
+quint64 startOf(QByteArrayView name, const char *end)
 {
-    if (!a.isEmpty() && !b.isEmpty() && a[0] != b[0])
-        return uchar(a[0]) < uchar(b[0]);
-    return a.compare(b) < 0;
+    constexpr qsizetype kSize = sizeof(quint64);
+    if (end - name.data() < kSize || name.isEmpty())
+        return 0;
+    const auto start = qFromBigEndian<quint64>(name.data());
+    return name.size() < kSize ? start & (~quint64(0) << 8 * (kSize - name.size())) : start;
 }
 
 } // namespace
 
+/// Each function reads what stands at `at`, and gives the place behind it; null when it gives up.
+///
+/// The last byte is a brace, which nothing but an object takes. Hence only what ends an object or
+/// looks into a string has to mind the end of the bytes.
 class Q_DECL_HIDDEN VJsonText::Parser
 {
 public:
     Parser(QByteArrayView bytes, Tokens &tokens)
         : m_begin(bytes.begin())
-        , m_at(bytes.begin())
         , m_end(bytes.end())
         , m_tokens(tokens)
-    { }
+    {
+        m_tokens.resize(m_tokens.capacity());
+        m_limit = quint32(m_tokens.size());
+        m_token = m_tokens.data();
+    }
 
     bool readText()
     {
-        skipBlanks();
-        if (peek() != '{' || !readValue(0))
+        while (m_end > m_begin && isBlank(m_end[-1]))
+            --m_end;
+        if (m_begin == m_end || m_end[-1] != '}')
             return false;
-        skipBlanks();
-        return m_at == m_end;
+        const char *const at = behindBlanks(m_begin);
+        if (*at != '{' || readObject(at, 0) != m_end)
+            return false;
+        m_tokens.resize(m_count);
+        return true;
     }
 
 private:
-    bool readValue(int depth);
-    bool readObject(int depth);
-    bool readArray(int depth);
-    bool readString(Kind kind);
-    bool readNumber();
-    bool readWord(const char *word, Kind kind);
+    const char *readValue(const char *at, int depth);
+    const char *readObject(const char *at, int depth);
+    const char *readArray(const char *at, int depth);
+    const char *readString(const char *at, Kind kind);
+    Q_NEVER_INLINE const char *readOddString(const char *begin, Kind kind);
+    const char *readNumber(const char *at);
+    const char *readWord(const char *at, QByteArrayView word, Kind kind);
     bool hasKeyTwice(quint32 object) const;
     const char *behindPlain(const char *at) const;
 
-    char peek() const { return m_at < m_end ? *m_at : '\0'; }
-    void skipBlanks()
+    static const char *behindBlanks(const char *at)
     {
         // Compact text has none, so nothing else is compared with each of the four.
-        while (m_at < m_end && uchar(*m_at) <= ' ' && isBlank(*m_at))
-            ++m_at;
+        while (uchar(*at) <= ' ' && isBlank(*at))
+            ++at;
+        return at;
     }
-    bool take(char c)
+    static const char *behindDigits(const char *at)
     {
-        if (peek() != c)
-            return false;
-        ++m_at;
-        return true;
+        while (isDigit(*at))
+            ++at;
+        return at;
     }
-    quint32 here() const { return quint32(m_at - m_begin); }
-    quint32 open(Kind kind)
+    quint32 placeOf(const char *at) const { return quint32(at - m_begin); }
+    Q_NEVER_INLINE void makeRoom()
     {
-        m_tokens.append({here(), 0, 0, kind});
-        return quint32(m_tokens.size() - 1);
+        m_tokens.resize(2 * m_tokens.size());
+        m_limit = quint32(m_tokens.size());
+        m_token = m_tokens.data();
     }
-    void close(quint32 token)
+    quint32 add(const Token &token)
     {
-        m_tokens[token].end = here();
-        m_tokens[token].next = quint32(m_tokens.size());
+        if (m_count == m_limit)
+            makeRoom();
+        m_token[m_count] = token;
+        return m_count++;
     }
-    /// Adds a token without others in it, which ends here.
-    void addLeaf(Kind kind, quint32 begin)
+    quint32 open(Kind kind, const char *at) { return add({placeOf(at), 0, 0, kind}); }
+    void close(quint32 token, const char *end)
     {
-        m_tokens.append({begin, here(), quint32(m_tokens.size() + 1), kind});
+        m_token[token].end = placeOf(end);
+        m_token[token].next = m_count;
+    }
+    /// Adds a token without others in it.
+    void addLeaf(Kind kind, const char *begin, const char *end)
+    {
+        add({placeOf(begin), placeOf(end), m_count + 1, kind});
     }
     QByteArrayView bytesOf(const Token &token) const
     {
@@ -185,77 +208,97 @@ private:
     }
 
     const char *const m_begin;
-    const char *m_at;
-    const char *const m_end;
+    const char *m_end;
     Tokens &m_tokens;
+    Token *m_token;
+    quint32 m_count = 0;
+    quint32 m_limit;
 };
 
-bool VJsonText::Parser::readValue(int depth)
+inline const char *VJsonText::Parser::readValue(const char *at, int depth)
 {
-    switch (peek()) {
+    switch (*at) {
     case '{':
-        return readObject(depth);
+        return readObject(at, depth);
     case '[':
-        return readArray(depth);
+        return readArray(at, depth);
     case '"':
-        return readString(Kind::String);
+        return readString(at, Kind::String);
     case 't':
-        return readWord("true", Kind::True);
+        return readWord(at, "true", Kind::True);
     case 'f':
-        return readWord("false", Kind::False);
+        return readWord(at, "false", Kind::False);
     case 'n':
-        return readWord("null", Kind::Null);
+        return readWord(at, "null", Kind::Null);
     default:
-        return readNumber();
+        return readNumber(at);
     }
 }
 
-bool VJsonText::Parser::readObject(int depth)
+const char *VJsonText::Parser::readObject(const char *at, int depth)
 {
     if (depth == kMaxDepth)
-        return false;
-    const quint32 object = open(Kind::Object);
-    ++m_at;
-    skipBlanks();
-    if (!take('}')) {
-        do {
-            skipBlanks();
-            if (peek() != '"' || !readString(Kind::Key))
-                return false;
-            skipBlanks();
-            if (!take(':'))
-                return false;
-            skipBlanks();
-            if (!readValue(depth + 1))
-                return false;
-            skipBlanks();
-        } while (take(','));
-        if (!take('}'))
-            return false;
+        return nullptr;
+    const quint32 object = open(Kind::Object, at);
+    at = behindBlanks(at + 1);
+    bool isSorted = true;
+    if (*at != '}') {
+        QByteArrayView last;
+        quint64 lastStart = 0;
+        for (;;) {
+            if (*at != '"')
+                return nullptr;
+            const char *const begin = at + 1;
+            at = readString(at, Kind::Key);
+            if (at == nullptr)
+                return nullptr;
+            const QByteArrayView name(begin, at - 1);
+            const quint64 start = startOf(name, m_end);
+            isSorted =
+                isSorted && (lastStart < start || (lastStart == start && last.compare(name) < 0));
+            last = name;
+            lastStart = start;
+            at = behindBlanks(at);
+            if (*at != ':')
+                return nullptr;
+            at = readValue(behindBlanks(at + 1), depth + 1);
+            if (at == nullptr)
+                return nullptr;
+            at = behindBlanks(at);
+            if (*at != ',')
+                break;
+            at = behindBlanks(at + 1);
+        }
+        if (*at != '}')
+            return nullptr;
     }
-    close(object);
-    return !hasKeyTwice(object);
+    ++at;
+    close(object, at);
+    const bool isEnd = at == m_end;
+    return isEnd == (depth == 0) && (isSorted || !hasKeyTwice(object)) ? at : nullptr;
 }
 
-bool VJsonText::Parser::readArray(int depth)
+const char *VJsonText::Parser::readArray(const char *at, int depth)
 {
     if (depth == kMaxDepth)
-        return false;
-    const quint32 array = open(Kind::Array);
-    ++m_at;
-    skipBlanks();
-    if (!take(']')) {
-        do {
-            skipBlanks();
-            if (!readValue(depth + 1))
-                return false;
-            skipBlanks();
-        } while (take(','));
-        if (!take(']'))
-            return false;
+        return nullptr;
+    const quint32 array = open(Kind::Array, at);
+    at = behindBlanks(at + 1);
+    if (*at != ']') {
+        for (;;) {
+            at = readValue(at, depth + 1);
+            if (at == nullptr)
+                return nullptr;
+            at = behindBlanks(at);
+            if (*at != ',')
+                break;
+            at = behindBlanks(at + 1);
+        }
+        if (*at != ']')
+            return nullptr;
     }
-    close(array);
-    return true;
+    close(array, at + 1);
+    return at + 1;
 }
 
 /// Behind the plain bytes at `at`.
@@ -272,81 +315,77 @@ inline const char *VJsonText::Parser::behindPlain(const char *at) const
     return at;
 }
 
-bool VJsonText::Parser::readString(Kind kind)
+inline const char *VJsonText::Parser::readString(const char *at, Kind kind)
 {
-    const char *const begin = m_at + 1;
+    const char *const begin = at + 1;
+    if (m_end - begin >= kBlock) {
+        const qsizetype length = plainLength(begin);
+        if (length < kBlock && begin[length] == '"') {
+            addLeaf(kind, begin, begin + length);
+            return begin + length + 1;
+        }
+    }
+    return readOddString(begin, kind);
+}
+
+/// Reads what is not a short string of plain bytes.
+const char *VJsonText::Parser::readOddString(const char *begin, Kind kind)
+{
     const char *at = behindPlain(begin);
     while (at < m_end && uchar(*at) >= 0x80) {
         const qsizetype length = sequenceLength(at, m_end);
         // QJsonDocument drops a byte order mark at the start of a string.
         if (length == 0
             || (at == begin && QByteArrayView(at, length) == QByteArrayView("\xef\xbb\xbf")))
-            return false;
+            return nullptr;
         at = behindPlain(at + length);
     }
-    m_at = at;
-    addLeaf(kind, quint32(begin - m_begin));
-    return take('"'); // An escape or a control character stands here otherwise.
+    if (at == m_end || *at != '"')
+        return nullptr; // An escape or a control character stands here otherwise.
+    addLeaf(kind, begin, at);
+    return at + 1;
 }
 
-bool VJsonText::Parser::readNumber()
+const char *VJsonText::Parser::readNumber(const char *at)
 {
-    const quint32 begin = here();
-    take('-');
-    const char *const first = m_at;
-    while (isDigit(peek()))
-        ++m_at;
-    const qsizetype wholeDigits = m_at - first;
+    const char *const begin = at;
+    const char *const first = *at == '-' ? at + 1 : at;
+    at = behindDigits(first);
+    const qsizetype wholeDigits = at - first;
     if (wholeDigits == 0 || wholeDigits > kMaxWholeDigits || (*first == '0' && wholeDigits > 1))
-        return false;
+        return nullptr;
     qsizetype fractionDigits = 0;
-    if (take('.')) {
-        const char *const fraction = m_at;
-        while (isDigit(peek()))
-            ++m_at;
-        fractionDigits = m_at - fraction;
+    if (*at == '.') {
+        const char *const fraction = at + 1;
+        at = behindDigits(fraction);
+        fractionDigits = at - fraction;
         if (fractionDigits == 0)
-            return false;
+            return nullptr;
     }
     // The zero before the point is no digit that counts.
     const qsizetype digits = (*first == '0' ? 0 : wholeDigits) + fractionDigits;
-    addLeaf(Kind::Number, begin);
-    return digits <= kMaxDigits && peek() != 'e' && peek() != 'E';
+    addLeaf(Kind::Number, begin, at);
+    return digits <= kMaxDigits && *at != 'e' && *at != 'E' ? at : nullptr;
 }
 
-bool VJsonText::Parser::readWord(const char *word, Kind kind)
+const char *VJsonText::Parser::readWord(const char *at, QByteArrayView word, Kind kind)
 {
-    const quint32 begin = here();
-    const auto length = qsizetype(std::strlen(word));
-    if (m_end - m_at < length || std::memcmp(m_at, word, std::size_t(length)) != 0)
-        return false;
-    m_at += length;
-    addLeaf(kind, begin);
-    return true;
+    if (m_end - at < word.size() || std::memcmp(at, word.data(), std::size_t(word.size())) != 0)
+        return nullptr;
+    addLeaf(kind, at, at + word.size());
+    return at + word.size();
 }
 
+/// Whether a name comes twice in an object whose names are not sorted.
 bool VJsonText::Parser::hasKeyTwice(quint32 object) const
 {
-    // Written by a QJsonObject, keys are sorted: each needs comparing with the one before it only.
-    const quint32 end = quint32(m_tokens.size());
     quint32 count = 0;
-    bool isSorted = true;
-    QByteArrayView last;
-    for (quint32 key = object + 1; key < end; key = m_tokens[key + 1].next) {
-        const QByteArrayView name = bytesOf(m_tokens[key]);
-        isSorted = isSorted && (count == 0 || isBefore(last, name));
-        last = name;
-        ++count;
-    }
-    if (isSorted)
-        return false;
-    if (count > kMaxUnsortedKeys)
-        return true;
-    for (quint32 key = object + 1; key < end; key = m_tokens[key + 1].next) {
-        const QByteArrayView name = bytesOf(m_tokens[key]);
-        for (quint32 other = m_tokens[key + 1].next; other < end;
-             other = m_tokens[other + 1].next) {
-            if (bytesOf(m_tokens[other]) == name)
+    for (quint32 key = object + 1; key < m_count; key = m_token[key + 1].next) {
+        if (++count > kMaxUnsortedKeys)
+            return true;
+        const QByteArrayView name = bytesOf(m_token[key]);
+        for (quint32 other = object + 1; other < key; other = m_token[other + 1].next) {
+            if (bytesOf(m_token[other]) == name)
                 return true;
         }
     }
