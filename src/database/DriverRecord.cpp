@@ -15,20 +15,34 @@ namespace Norvane::Kilnjet::DriverRecord {
 
 namespace {
 
+using Hardware::VDeviceConfig;
+using Hardware::Interfaces::IVDeviceConfig;
+
 QString driverField()
 {
     return u"driver"_s;
 }
 
-std::unique_ptr<VPrinterDriver> driverFromJson(const VBytes &json)
+/// The driver that `config` is; null when it is none.
+std::unique_ptr<VPrinterDriver> driverOf(std::unique_ptr<IVDeviceConfig> config)
 {
-    std::unique_ptr<Hardware::Interfaces::IVDeviceConfig> config(
-        Hardware::VDeviceConfig::fromJson(json));
     auto *driver = dynamic_cast<VPrinterDriver *>(config.get());
     if (!driver)
         return nullptr;
     std::ignore = config.release();
     return std::unique_ptr<VPrinterDriver>(driver);
+}
+
+/// The driver that the record's JSON gives; null when it gives none.
+std::unique_ptr<VPrinterDriver> driverIn(const Database::VDBRecord &record)
+{
+    // Plain JSON stands in the file as it is. Whatever else there is shows when it is read as such.
+    std::unique_ptr<IVDeviceConfig> config;
+    if (const std::optional<VBytes> stored = record.stored(driverField()))
+        config.reset(VDeviceConfig::fromPlainJson(*stored));
+    if (!config)
+        config.reset(VDeviceConfig::fromJson(record.utf8(driverField()).value_or(VBytes())));
+    return driverOf(std::move(config));
 }
 
 } // namespace
@@ -57,10 +71,9 @@ std::unique_ptr<VPrinterDriver> toDriver(const Database::VDBRecord &record)
         return nullptr;
     const QUuid id =
         QUuid::fromString(QUtf8StringView(record.utf8(idField()).value_or(VBytes()).view()));
-    const std::optional<VBytes> json = record.utf8(driverField());
-    if (id.isNull() || !json)
+    if (id.isNull())
         return nullptr;
-    std::unique_ptr<VPrinterDriver> driver = driverFromJson(*json);
+    std::unique_ptr<VPrinterDriver> driver = driverIn(record);
     // A driver under a foreign id could neither be found by its content nor be rewritten.
     if (!driver || driver->dataId() != id)
         return nullptr;

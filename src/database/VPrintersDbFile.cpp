@@ -39,6 +39,25 @@ bool openOrCreate(VDBText &store, QIODevice *device)
     return store.status() == Database::VDBStatus::NotEmpty && store.open(device);
 }
 
+/// The drivers that there are by their ids; of one id, the last.
+QMap<QUuid, VPrinterDriver> mapOf(std::vector<std::unique_ptr<VPrinterDriver>> drivers)
+{
+    // In about the map's order each finds its place at once, at the end.
+    std::vector<std::pair<quint32, std::size_t>> order;
+    order.reserve(drivers.size());
+    for (std::size_t i = 0; i < drivers.size(); ++i) {
+        if (drivers[i])
+            order.emplace_back(drivers[i]->dataId().data1, i);
+    }
+    std::sort(order.begin(), order.end());
+    QMap<QUuid, VPrinterDriver> map;
+    for (const auto &[start, i] : order) {
+        map.insert(map.cend(), drivers[i]->dataId(), *drivers[i]);
+        drivers[i].reset();
+    }
+    return map;
+}
+
 /// Nothing when the store cannot be read; an unchanged one is not read before it is asked for.
 std::optional<QMap<QUuid, VPrinterDriver>> readDrivers(VDBText &store)
 {
@@ -50,13 +69,7 @@ std::optional<QMap<QUuid, VPrinterDriver>> readDrivers(VDBText &store)
         for (std::size_t i = begin; i < end; ++i)
             read[i] = DriverRecord::toDriver(records.at(qsizetype(i)));
     });
-    QMap<QUuid, VPrinterDriver> drivers;
-    for (auto &driver : read) {
-        if (driver)
-            drivers.insert(driver->dataId(), *driver);
-        driver.reset();
-    }
-    return drivers;
+    return mapOf(std::move(read));
 }
 
 /// Puts the drivers under `ids` into the store, and takes those out that are gone or not valid.

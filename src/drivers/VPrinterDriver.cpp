@@ -8,11 +8,11 @@
 #include "enums/PrinterClass_T.h"
 #include "enums/PrinterFacesMode_T.h"
 
-#include <vcore/VConvert.h>
 #include <vimaging/VImageHelper.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QStringBuilder>
 #include <QtCore/QTemporaryFile>
 
 using namespace Qt::StringLiterals;
@@ -230,10 +230,8 @@ QUuid VPrinterDriver::innerDataId(bool *ok) const
 
 QString VPrinterDriverPrivate::contentText() const
 {
-    const QStringList texts{PrinterFacesMode_T::instance().textOf(facesMode),
-                            PrinterClass_T::instance().textOf(printerClass),
-                            VConvert::toString(maximumFaces, QLocale(QLocale::C))};
-    return texts.join(u';');
+    return PrinterFacesMode_T::instance().textOf(facesMode) % u';'
+        % PrinterClass_T::instance().textOf(printerClass) % u';' % QString::number(maximumFaces);
 }
 
 bool VPrinterDriver::innerIsValid() const

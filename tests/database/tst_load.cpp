@@ -3,6 +3,7 @@
 
 #include "support/Printers.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtTest/QTest>
 
 #include <vcommon/VDBRecord.h>
@@ -46,6 +47,27 @@ QByteArray fileWith(const QList<VDBRecord> &records, const QString &key = {})
     return buffer.data();
 }
 
+QByteArray sumOf(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256)
+        .toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
+}
+
+/// A line with its sum, made by hand: a record may hold bytes then that no text has.
+QByteArray signedLine(const QByteArray &kind, const QByteArray &payload, QByteArray &sum)
+{
+    sum = sumOf(kind + payload);
+    return kind + '\t' + QByteArray::number(payload.size()) + '\t' + sum + "\t-\t" + payload + '\n';
+}
+
+/// A file of one record with this payload.
+QByteArray fileWithPayload(const QByteArray &payload)
+{
+    QByteArray sum;
+    const QByteArray line = signedLine("+", payload, sum);
+    return fileWith({}) + line + signedLine("=", "lines=1\tdigest=" + sumOf(sum), sum);
+}
+
 /// The names of the entries that a database finds in the file.
 QStringList loadedNames(QByteArray bytes, const QString &key = {})
 {
@@ -71,6 +93,7 @@ private Q_SLOTS:
     void load_dropsARecordWithABadSignature();
     void load_checksTheSignatureUnderTheKey();
     void load_takesTheLaterOfTwoRecordsWithOneId();
+    void load_takesADriverHoweverItIsStored();
     void load_takesAnInvalidDriver();
     void load_takesAnIdWithoutBraces();
     void load_leavesTheFileAsItIs();
@@ -180,6 +203,30 @@ void tst_load::load_takesTheLaterOfTwoRecordsWithOneId()
         fileWith({recordFor(u"1"_s, driver), recordFor(u"2"_s, printer(u"A"_s)),
                   recordFor(u"3"_s, renamed(driver, u"late"_s))});
     QCOMPARE(loadedNames(bytes), QStringList({u"A"_s, u"late"_s}));
+}
+
+void tst_load::load_takesADriverHoweverItIsStored()
+{
+    const VPrinterDriver driver = printer(u"Axe"_s);
+    const QByteArray start = "name=1\tid=" + idText(driver).toUtf8();
+    const QByteArray json = jsonText(driver).toUtf8();
+    const auto namesFor = [&](const QByteArray &name) {
+        return loadedNames(
+            fileWithPayload(start + "\tdriver=" + QByteArray(json).replace("Axe", name)));
+    };
+    QCOMPARE(namesFor("Axe"), QStringList{u"Axe"_s});
+    // Needless escapes are read nevertheless, and those of the line are not those of the JSON.
+    QCOMPARE(namesFor("A\\x78e"), QStringList{u"Axe"_s});
+    QCOMPARE(namesFor("A\\\\\"e"), QStringList{u"A\"e"_s});
+    // What is no UTF-8 is replaced as in any text.
+    QCOMPARE(namesFor("A\xff"), QStringList{u"A\ufffd"_s});
+    QCOMPARE(
+        loadedNames(fileWithPayload("name=1\tdriver=" + json + "\tid=" + idText(driver).toUtf8())),
+        QStringList{u"Axe"_s});
+    QCOMPARE(loadedNames(fileWithPayload(start + "\tdriver={}\tdriver=" + json)),
+             QStringList{u"Axe"_s});
+    QCOMPARE(loadedNames(fileWithPayload(start + "\tdriver=" + json + "\tdriver={}")),
+             QStringList());
 }
 
 void tst_load::load_takesAnInvalidDriver()

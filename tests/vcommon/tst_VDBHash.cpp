@@ -8,6 +8,10 @@
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>
 
+#include <array>
+#include <thread>
+#include <vector>
+
 using namespace Norvane::Database;
 
 namespace {
@@ -39,6 +43,7 @@ private Q_SLOTS:
     void sha256_ofTwoTextsIsThatOfBothJoined();
     void hmac_isThatOfTheStandard();
     void hmac_hasNoKeyThatIsTooShortOrTooLong();
+    void hmac_ofOneKeyMayBeMadeOnManyThreads();
 };
 
 void tst_VDBHash::sha256_isThatOfTheStandard()
@@ -64,7 +69,7 @@ void tst_VDBHash::sha256_ofTwoTextsIsThatOfBothJoined()
 void tst_VDBHash::hmac_isThatOfTheStandard()
 {
     // The second test case of RFC 4231.
-    QCOMPARE(bytesOf(hmacSha256("Jefe", "what do ya want for nothing?")).toHex(),
+    QCOMPARE(bytesOf(Hmac("Jefe").of("what do ya want for nothing?")).toHex(),
              "5bdcc146bf60754e6a042426089575c75a003f089d2739839dec58b964ec3843");
 }
 
@@ -74,9 +79,29 @@ void tst_VDBHash::hmac_hasNoKeyThatIsTooShortOrTooLong()
     for (qsizetype size = 1; size < 200; ++size) {
         const QByteArray key = randomBytes(random, size);
         const QByteArray message = randomBytes(random, random.bounded(100));
-        QCOMPARE(bytesOf(hmacSha256(key, message)),
+        QCOMPARE(bytesOf(Hmac(key).of(message)),
                  QMessageAuthenticationCode::hash(message, key, kHash));
     }
+}
+
+void tst_VDBHash::hmac_ofOneKeyMayBeMadeOnManyThreads()
+{
+    const Hmac shared("a key");
+    QByteArray expected;
+    for (int i = 0; i < 1000; ++i)
+        expected += bytesOf(shared.of(QByteArray::number(i)));
+    std::array<QByteArray, 4> made;
+    {
+        std::vector<std::jthread> threads;
+        for (QByteArray &codes : made) {
+            threads.emplace_back([&codes, copy = shared] {
+                for (int i = 0; i < 1000; ++i)
+                    codes += bytesOf(copy.of(QByteArray::number(i)));
+            });
+        }
+    }
+    for (const QByteArray &codes : made)
+        QCOMPARE(codes, expected);
 }
 
 QTEST_GUILESS_MAIN(tst_VDBHash)

@@ -53,8 +53,11 @@ private Q_SLOTS:
     void utf8_ofAnyBytesIsValid();
     void utf8_ofABrokenEscapeIsTheEscape_data();
     void utf8_ofABrokenEscapeIsTheEscape();
+    void stored_isWhatStandsInTheFile();
+    void stored_isNothingElsewhere();
     void insertUtf8_replacesWhatIsNoUtf8();
     void search_takesTheLastOfEqualFields();
+    void search_findsAFieldWhereverItStands();
     void search_findsKeysWithNeedlessEscapes();
     void change_ofAStoredRecordKeepsTheOtherFields();
     void copies_areIndependent();
@@ -208,6 +211,29 @@ void tst_VDBTextRecords::utf8_ofABrokenEscapeIsTheEscape()
     QCOMPARE(utf8Of(firstOf(fileWithPayload("id=A\ttext=" + value)), u"text"_s), value);
 }
 
+void tst_VDBTextRecords::stored_isWhatStandsInTheFile()
+{
+    for (const QByteArray &value : {"plain"_ba, ""_ba, "a\\tb\\"_ba, "\xff"_ba, "a=b"_ba}) {
+        const VDBRecord record = firstOf(fileWithPayload("id=A\ttext=" + value));
+        const std::optional<VBytes> stored = record.stored(u"text"_s);
+        QVERIFY(stored);
+        QCOMPARE(stored->toByteArray(), value);
+        QCOMPARE(record.stored(u"id"_s).value().toByteArray(), "A"_ba);
+    }
+}
+
+void tst_VDBTextRecords::stored_isNothingElsewhere()
+{
+    const VDBRecord record = firstOf(fileWithPayload("id=A\tnothing\ttext=alpha"));
+    QVERIFY(!record.stored(u"nothing"_s));
+    QVERIFY(!record.stored(u"missing"_s));
+    QVERIFY(!VDBRecord().stored(QString()));
+    VDBRecord changed = record;
+    changed.insertUtf8(u"other"_s, "value"_ba);
+    QVERIFY(!changed.stored(u"text"_s));
+    QVERIFY(!changed.stored(u"other"_s));
+}
+
 void tst_VDBTextRecords::insertUtf8_replacesWhatIsNoUtf8()
 {
     VDBRecord record;
@@ -221,6 +247,19 @@ void tst_VDBTextRecords::search_takesTheLastOfEqualFields()
     QCOMPARE(record.keys(), QStringList({u"id"_s, u"text"_s, u"other"_s}));
     QCOMPARE(record.search(u"text"_s).value().toString(), u"three"_s);
     QCOMPARE(utf8Of(record, u"text"_s), "three"_ba);
+}
+
+void tst_VDBTextRecords::search_findsAFieldWhereverItStands()
+{
+    for (const QByteArray &payload :
+         {"id=A\tlast=1"_ba, "last=1\tid=A"_ba, "last=1\tid=A\t"_ba, "id=A\t\tlast=1"_ba,
+          "last=1\t\tid=A\t\t"_ba, "last=0\tid=0\tid=A\tlast=1"_ba}) {
+        const VDBRecord record = firstOf(fileWithPayload(payload));
+        QCOMPARE(utf8Of(record, u"id"_s), "A"_ba);
+        QCOMPARE(utf8Of(record, u"last"_s), "1"_ba);
+        QVERIFY(!record.search(u"1"_s).isFound());
+        QVERIFY(!record.search(u"la"_s).isFound());
+    }
 }
 
 void tst_VDBTextRecords::search_findsKeysWithNeedlessEscapes()

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void registry_takesNull();
     void registry_isUsedFromAnyThread();
     void record_isRebuilt();
+    void plainJson_isReadAndNothingElse();
     void record_ofAnUnknownKindIsNull();
     void bytes_mayBeAnything_data();
     void bytes_mayBeAnything();
@@ -133,6 +134,25 @@ void tst_VDeviceConfigFromJson::registry_isUsedFromAnyThread()
         good += config && bytesOf(*config) == json ? 1 : 0;
     });
     QCOMPARE(good.load(), 16);
+}
+
+void tst_VDeviceConfigFromJson::plainJson_isReadAndNothingElse()
+{
+    const auto readPlain = [](const QByteArray &json) {
+        return std::unique_ptr<IVDeviceConfig>(VDeviceConfig::fromPlainJson(Norvane::VBytes(json)));
+    };
+    const Config plain(u"é 中"_s);
+    const auto rebuilt = readPlain(bytesOf(plain));
+    QVERIFY(rebuilt != nullptr);
+    QVERIFY(rebuilt->equalsTo(&plain));
+    // All of these are JSON, and records.
+    for (const QByteArray &json : {bytesOf(family()), "\xEF\xBB\xBF" + bytesOf(plain),
+                                   bytesOf(plain).replace("\"name\"", "\"n\\u0061me\"")}) {
+        QVERIFY(read(json) != nullptr);
+        QVERIFY(readPlain(json) == nullptr);
+    }
+    QVERIFY(readPlain("{}") == nullptr);
+    QVERIFY(readPlain({}) == nullptr);
 }
 
 void tst_VDeviceConfigFromJson::record_isRebuilt()

@@ -25,7 +25,6 @@ private Q_SLOTS:
     void numbers_readLikeADocument();
     void valuesOfAnotherType_giveTheFallback();
     void manyKeysInNoOrder_areRefused();
-    void keysAreFoundAtAnyDepth();
     void everyPrefixIsRefused();
     void parsingAgain_forgetsTheFirstText();
 };
@@ -228,15 +227,6 @@ void tst_JsonText::manyKeysInNoOrder_areRefused()
     VJsonText text;
     QVERIFY(text.parse(descending(64)));
     QVERIFY(!text.parse(descending(65)));
-}
-
-void tst_JsonText::keysAreFoundAtAnyDepth()
-{
-    VJsonText text;
-    QVERIFY(text.parse(R"({"a":[{"deep":"shallow"}]})"));
-    QVERIFY(text.hasKey("deep"_L1));
-    QVERIFY(!text.hasKey("shallow"_L1)); // A value, not a key.
-    QVERIFY(!text.hasKey("dee"_L1));
 }
 
 void tst_JsonText::everyPrefixIsRefused()

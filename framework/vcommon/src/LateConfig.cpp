@@ -11,15 +11,17 @@ namespace Norvane::Hardware {
 
 namespace {
 
-/// Whether no code of others takes part in decoding these children: it would notice when it runs.
-bool areOwn(const VJsonTextArray &children, const Prototypes &prototypes)
+/// Whether what the envelope holds can wait. Metadata cannot: they live in the record itself, and not
+/// all of them travel to its copies. Nor can children that code of others decodes: it would notice.
+bool canWait(const VJsonTextObject &envelope, const Prototypes &prototypes)
 {
-    for (const VJsonTextValue &child : children) {
+    if (!envelope.value(EnvelopeKey::kMetadata).isUndefined())
+        return false;
+    for (const VJsonTextValue &child : envelope.value(EnvelopeKey::kChildren).toArray()) {
         if (!child.isObject())
             continue; // Skipped by whoever decodes.
-        const VJsonTextObject envelope = child.toObject();
-        if (prototypes.find(envelope).codec == nullptr
-            || !areOwn(envelope.value(EnvelopeKey::kChildren).toArray(), prototypes))
+        const VJsonTextObject inner = child.toObject();
+        if (prototypes.find(inner).codec == nullptr || !canWait(inner, prototypes))
             return false;
     }
     return true;
@@ -36,24 +38,21 @@ std::optional<QUuid> VDeviceConfigCodec::dataId(const QUuid &, const VJsonTextOb
 
 void VDeviceConfigCodec::adopt(const VDeviceConfig &, const VDeviceConfig &) const { }
 
-QExplicitlySharedDataPointer<LateConfig>
-LateConfig::create(const VBytes &json, const VJsonTextObject &envelope,
-                   const std::shared_ptr<const Prototypes> &prototypes,
-                   const VDeviceConfigCodec &codec)
+QExplicitlySharedDataPointer<LateConfig> LateConfig::create(const VBytes &json,
+                                                            const VJsonTextObject &envelope,
+                                                            const Prototypes &prototypes,
+                                                            const VDeviceConfigCodec &codec)
 {
     QExplicitlySharedDataPointer<LateConfig> late;
     const std::optional<QUuid> dataId =
         codec.dataId(uuidFromJson(envelope.value(EnvelopeKey::kDeviceId)),
                      envelope.value(EnvelopeKey::kConfig).toObject());
-    // Metadata live in the record itself and not all of them travel to its copies.
-    const bool isPlain = !envelope.text().hasKey(EnvelopeKey::kMetadata)
-        && areOwn(envelope.value(EnvelopeKey::kChildren).toArray(), *prototypes);
-    if (dataId && isPlain) {
+    if (dataId && canWait(envelope, prototypes)) {
         late.reset(new LateConfig);
         late->m_dataId = *dataId;
         late->m_codec = &codec;
         late->m_json = json;
-        late->m_prototypes = prototypes;
+        late->m_prototypes = &prototypes;
     }
     return late;
 }
@@ -66,7 +65,6 @@ const VDeviceConfig &LateConfig::decoded() const
         Q_ASSERT(isPlain);
         m_decoded = m_prototypes->create(text.object());
         m_json = VBytes();
-        m_prototypes.reset();
     });
     return static_cast<const VDeviceConfig &>(*m_decoded);
 }

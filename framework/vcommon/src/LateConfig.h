@@ -24,9 +24,10 @@ class LateConfig : public QSharedData
 public:
     /// The record that `envelope`, the structure of `json`, describes; null when it must be decoded
     /// at once, as what decoding meets could change until later.
-    static QExplicitlySharedDataPointer<LateConfig>
-    create(const VBytes &json, const VJsonTextObject &envelope,
-           const std::shared_ptr<const Prototypes> &prototypes, const VDeviceConfigCodec &codec);
+    static QExplicitlySharedDataPointer<LateConfig> create(const VBytes &json,
+                                                           const VJsonTextObject &envelope,
+                                                           const Prototypes &prototypes,
+                                                           const VDeviceConfigCodec &codec);
 
     const QUuid &dataId() const { return m_dataId; }
     const VDeviceConfigCodec &codec() const { return *m_codec; }
@@ -40,7 +41,7 @@ private:
     const VDeviceConfigCodec *m_codec = nullptr;
     mutable std::once_flag m_once;
     mutable VBytes m_json; ///< Until it is decoded.
-    mutable std::shared_ptr<const Prototypes> m_prototypes;
+    const Prototypes *m_prototypes = nullptr; ///< Those that there were when it was read.
     mutable std::unique_ptr<Interfaces::IVDeviceConfig> m_decoded;
 };
 

@@ -9,11 +9,17 @@ namespace Norvane::Database {
 
 void Contents::add(Entry &&entry)
 {
-    if (entry.isSound) {
+    if (entry.isSound && entry.kind == LineKind::Remove) {
         kill(entry.id);
-        if (entry.kind == LineKind::Remove)
-            return;
-        index.insert(entry.id, entries.size());
+        return;
+    }
+    if (entry.isSound) {
+        killDamaged(entry.id);
+        const qsizetype known = index.size();
+        std::size_t &place = index[entry.id];
+        if (index.size() == known)
+            killAt(place);
+        place = entries.size();
     } else if (entry.isRecord) {
         // An older sound record of the same key stays live: better an old one than none.
         damagedRecords.insert(entry.id, entries.size());
@@ -24,15 +30,25 @@ void Contents::add(Entry &&entry)
 void Contents::kill(const QString &id)
 {
     if (const auto sound = index.constFind(id); sound != index.constEnd()) {
-        entries[*sound].isLive = false;
-        ++deadCount;
+        killAt(*sound);
         index.erase(sound);
     }
+    killDamaged(id);
+}
+
+void Contents::killDamaged(const QString &id)
+{
     if (damagedRecords.isEmpty())
         return;
     for (const std::size_t damaged : damagedRecords.values(id))
-        entries[damaged].isLive = false;
-    deadCount += std::size_t(damagedRecords.remove(id));
+        killAt(damaged);
+    damagedRecords.remove(id);
+}
+
+void Contents::killAt(std::size_t place)
+{
+    entries[place].isLive = false;
+    ++deadCount;
 }
 
 void Contents::forgetDead()

@@ -19,6 +19,7 @@ struct Entry
     qint64 offset = 0; ///< Where the line begins in the file.
     qint64 size = 0; ///< Its length without the line end.
     qint64 payloadAt = 0; ///< Where its fields begin, from `offset`.
+    qint64 lastFieldAt = 0; ///< Where the last of the fields begins, from the first one.
     qint64 line = 0; ///< Its number, from 1.
     QString id; ///< The record's key; of a damaged line as far as it is readable.
     SumText sum = {}; ///< As a sound line states it.
@@ -62,6 +63,10 @@ struct Contents
     void kill(const QString &id);
     /// Drops the dead entries once they are many, so that they do not grow for ever.
     void forgetDead();
+
+private:
+    void killDamaged(const QString &id);
+    void killAt(std::size_t place);
 };
 
 } // namespace Norvane::Database

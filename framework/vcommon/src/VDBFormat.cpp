@@ -26,28 +26,38 @@ QByteArray textOf(const Digest &digest)
     return QByteArray::fromRawData(digest.data(), digest.size()).toBase64(kBase64);
 }
 
-bool needsEscape(char c, bool isKey)
+/// Whether `c` needs an escape. It is compared with all of them at once, without branches: only then
+/// are many bytes compared at a time.
+bool needsEscape(char c, char inKeys)
 {
-    return uchar(c) < 0x20 || c == '\\' || (isKey && c == '=');
+    return (uchar(c) < 0x20) | (c == '\\') | (c == inKeys);
 }
 
 /// How many of the first bytes need no escape.
 qsizetype plainLength(QByteArrayView utf8, bool isKey)
 {
-    // Whole blocks without a way out of the loop can be compared many bytes at a time.
     constexpr qsizetype kBlock = 64;
+    const char inKeys = isKey ? '=' : '\\';
     qsizetype length = 0;
     for (; utf8.size() - length >= kBlock; length += kBlock) {
         const char *const block = utf8.data() + length;
-        bool isFound = false;
+        uchar isFound = 0; // A bool would be set one byte at a time.
         for (qsizetype i = 0; i < kBlock; ++i)
-            isFound |= needsEscape(block[i], isKey);
-        if (isFound)
+            isFound |= uchar(needsEscape(block[i], inKeys));
+        if (isFound != 0)
             break;
     }
-    while (length < utf8.size() && !needsEscape(utf8[length], isKey))
+    while (length < utf8.size() && !needsEscape(utf8[length], inKeys))
         ++length;
     return length;
+}
+
+RawField splitField(QByteArrayView field)
+{
+    const qsizetype equals = field.indexOf('=');
+    if (equals < 0)
+        return {field, std::nullopt};
+    return {field.first(equals), field.sliced(equals + 1)};
 }
 
 int hexDigit(char c)
@@ -159,21 +169,37 @@ RawField takeField(QByteArrayView &payload)
     const qsizetype tab = payload.indexOf('\t');
     const QByteArrayView field = tab < 0 ? payload : payload.first(tab);
     payload = tab < 0 ? QByteArrayView() : payload.sliced(tab + 1);
-    const qsizetype equals = field.indexOf('=');
-    if (equals < 0)
-        return {field, std::nullopt};
-    return {field.first(equals), field.sliced(equals + 1)};
+    return splitField(field);
 }
 
-std::optional<RawField> lastField(QByteArrayView payload, const QString &key)
+qsizetype lastFieldAt(QByteArrayView payload)
+{
+    // Forwards: Qt goes backwards a byte at a time.
+    qsizetype at = 0;
+    for (qsizetype tab = payload.indexOf('\t'); tab >= 0; tab = payload.indexOf('\t', at))
+        at = tab + 1;
+    return at;
+}
+
+std::optional<RawField> lastField(QByteArrayView payload, qsizetype lastAt, const QString &key)
 {
     const QByteArray utf8 = key.toUtf8();
+    const auto isNamed = [&](const RawField &field) {
+        const bool isPlain = std::all_of(field.key.begin(), field.key.end(),
+                                         [](char c) { return uchar(c) < 0x80 && c != '\\'; });
+        return isPlain ? field.key == utf8 : unescaped(field.key) == key;
+    };
+    // It is asked first, and not looked into: it may be most of the record.
+    if (lastAt < payload.size()) {
+        const RawField field = splitField(payload.sliced(lastAt));
+        if (isNamed(field))
+            return field;
+        payload.truncate(std::max(lastAt - 1, qsizetype(0)));
+    }
     std::optional<RawField> last;
     while (!payload.isEmpty()) {
         const RawField field = takeField(payload);
-        const bool isPlain = std::all_of(field.key.begin(), field.key.end(),
-                                         [](char c) { return uchar(c) < 0x80 && c != '\\'; });
-        if (isPlain ? field.key == utf8 : unescaped(field.key) == key)
+        if (isNamed(field))
             last = field;
     }
     return last;
@@ -198,12 +224,12 @@ Signer::Signer(const QString &key)
     // Lines are signed with a key derived from the given one, so that the check in the header and
     // the codes of the lines never stand for each other.
     : m_isKeyed(!key.isEmpty())
-    , m_key(m_isKeyed ? hmacSha256(key.toUtf8(), "vdbtext line key") : Digest())
+    , m_codes(Hmac(key.toUtf8()).of("vdbtext line key"))
 { }
 
 QByteArray Signer::keyCheck() const
 {
-    return isKeyed() ? textOf(hmacSha256(m_key, "vdbtext key check")) : QByteArray();
+    return isKeyed() ? textOf(m_codes.of("vdbtext key check")) : QByteArray();
 }
 
 QByteArray Signer::sum(LineKind kind, QByteArrayView payload)
@@ -219,7 +245,7 @@ QByteArray Signer::sum(QByteArrayView bytes)
 
 QByteArray Signer::code(QByteArrayView sum) const
 {
-    return isKeyed() ? textOf(hmacSha256(m_key, sum)) : "-"_ba;
+    return isKeyed() ? textOf(m_codes.of(sum)) : "-"_ba;
 }
 
 QByteArray encodeHeader(const Header &header)

@@ -70,8 +70,11 @@ struct RawField
 
 /// Takes the first field off a payload that is not empty.
 RawField takeField(QByteArrayView &payload);
-/// The last field `key`, which is the one that counts; nothing when there is none.
-std::optional<RawField> lastField(QByteArrayView payload, const QString &key);
+/// Where the last field of a payload begins.
+qsizetype lastFieldAt(QByteArrayView payload);
+/// The last field `key`, which is the one that counts; nothing when there is none. `lastAt` is where
+/// the last of all begins.
+std::optional<RawField> lastField(QByteArrayView payload, qsizetype lastAt, const QString &key);
 /// The value of the first field `key`; a null text when it is missing or null. Decodes nothing
 /// else.
 QString findField(QByteArrayView payload, const QString &key);
@@ -94,7 +97,7 @@ public:
 
 private:
     bool m_isKeyed;
-    Digest m_key;
+    Hmac m_codes;
 };
 
 /// What stands in a header.

@@ -9,6 +9,7 @@
 #include <gcrypt.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace Norvane::Database {
 
@@ -31,12 +32,11 @@ gcry_buffer_t bufferOf(QByteArrayView bytes)
     return buffer;
 }
 
-/// False when libgcrypt refuses, as it does with short keys on systems in FIPS mode.
-bool hash(unsigned flags, QByteArrayView first, QByteArrayView second, Digest &digest)
+bool hash(QByteArrayView first, QByteArrayView second, Digest &digest)
 {
     const std::array buffers = {bufferOf(first), bufferOf(second)};
     return isReady()
-        && gcry_md_hash_buffers(GCRY_MD_SHA256, flags, digest.data(), buffers.data(),
+        && gcry_md_hash_buffers(GCRY_MD_SHA256, 0, digest.data(), buffers.data(),
                                 int(buffers.size()))
         == 0;
 }
@@ -53,7 +53,7 @@ Digest digestOf(const QByteArray &bytes)
 Digest sha256(QByteArrayView first, QByteArrayView rest)
 {
     Digest digest = {};
-    if (hash(0, first, rest, digest))
+    if (hash(first, rest, digest))
         return digest;
     QCryptographicHash slower(kQtHash);
     slower.addData(first);
@@ -61,14 +61,29 @@ Digest sha256(QByteArrayView first, QByteArrayView rest)
     return digestOf(slower.result());
 }
 
-Digest hmacSha256(QByteArrayView key, QByteArrayView message)
+Hmac::Hmac(QByteArrayView key)
+    : m_key(key.toByteArray())
 {
-    // Of several texts libgcrypt takes the first one for the key.
+    gcry_md_hd_t handle = nullptr;
+    if (!isReady() || gcry_md_open(&handle, GCRY_MD_SHA256, GCRY_MD_FLAG_HMAC) != 0)
+        return;
+    m_prepared.reset(handle, gcry_md_close);
+    // Short keys are refused on systems in FIPS mode.
+    if (gcry_md_setkey(handle, key.data(), std::size_t(key.size())) != 0)
+        m_prepared.reset();
+}
+
+Digest Hmac::of(QByteArrayView message) const
+{
+    gcry_md_hd_t handle = nullptr;
+    // The prepared one is only copied, so that threads may share it.
+    if (!m_prepared || gcry_md_copy(&handle, m_prepared.get()) != 0)
+        return digestOf(QMessageAuthenticationCode::hash(message.toByteArray(), m_key, kQtHash));
     Digest digest = {};
-    if (hash(GCRY_MD_FLAG_HMAC, key, message, digest))
-        return digest;
-    return digestOf(
-        QMessageAuthenticationCode::hash(message.toByteArray(), key.toByteArray(), kQtHash));
+    gcry_md_write(handle, message.data(), std::size_t(message.size()));
+    std::memcpy(digest.data(), gcry_md_read(handle, GCRY_MD_SHA256), digest.size());
+    gcry_md_close(handle);
+    return digest;
 }
 
 } // namespace Norvane::Database

@@ -49,14 +49,22 @@ std::optional<CheckedLine> LineCheck::check(QByteArrayView content, qsizetype be
     checked.soundSize = soundSize(*line, bytes);
     checked.payloadAt = line->payload.data() - bytes.data();
     checked.kind = line->kind;
-    checked.sum = line->sum;
+    // Copied and found out now, while the line is at hand: by the time that all are checked, the first
+    // ones are far away from the processor again.
+    if (checked.isSound())
+        std::copy(line->sum.begin(), line->sum.end(), checked.sum.begin());
+    const qsizetype soundEnd = begin + checked.soundSize;
+    checked.hasLineFeed =
+        checked.isSound() && soundEnd < content.size() && content[soundEnd] == '\n';
     const QByteArrayView payload = checked.isSound()
         ? line->payload.first(checked.soundSize - checked.payloadAt)
         : line->payload;
     if (line->kind == LineKind::Remove)
         checked.id = unescaped(payload);
-    else if (line->kind == LineKind::Insert)
+    else if (line->kind == LineKind::Insert) {
         checked.id = findField(payload, keyField);
+        checked.lastFieldAt = lastFieldAt(payload);
+    }
     return checked;
 }
 
@@ -89,7 +97,11 @@ std::vector<CheckedLine> LineCheck::checkAll(QByteArrayView content, qsizetype p
         parts[begin] = checkPart(content, qsizetype(begin) * pieceSize,
                                  std::min(qsizetype(end) * pieceSize, content.size()));
     });
+    std::size_t count = 0;
+    for (const std::vector<CheckedLine> &part : parts)
+        count += part.size();
     std::vector<CheckedLine> lines;
+    lines.reserve(count);
     for (std::vector<CheckedLine> &part : parts)
         std::move(part.begin(), part.end(), std::back_inserter(lines));
     return lines;

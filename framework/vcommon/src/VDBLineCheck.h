@@ -17,8 +17,10 @@ struct CheckedLine
     qsizetype soundSize = -1; ///< Its length as far as the signature matches; -1 when none does.
     qsizetype payloadAt = 0; ///< Where the payload begins, from `begin`.
     LineKind kind = LineKind::Insert;
-    QByteArrayView sum; ///< As the line states it.
+    SumText sum = {}; ///< As a sound line states it.
     QString id; ///< The key of the record, sound or not; empty for a commit line.
+    qsizetype lastFieldAt = 0; ///< Of a record: where its last field begins, from the payload.
+    bool hasLineFeed = false; ///< A line feed stands behind the sound part.
 
     bool isSound() const { return soundSize >= 0; }
 };

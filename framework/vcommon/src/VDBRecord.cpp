@@ -116,7 +116,7 @@ VDBField VDBRecord::search(const QString &key) const
 {
     if (const Field *const field = findField(d->fields, key))
         return VDBField(field->variant());
-    const std::optional<RawField> stored = lastField(d->payload.view(), key);
+    const std::optional<RawField> stored = lastField(d->payload.view(), d->lastFieldAt, key);
     if (!stored)
         return {};
     return VDBField(stored->value ? QVariant(unescaped(*stored->value)) : QVariant());
@@ -132,14 +132,22 @@ std::optional<VBytes> VDBRecord::utf8(const QString &key) const
         const QString culture = search(cultureKey()).value().toString();
         return VBytes(VConvert::toString(field->value, cultureLocale(culture)).toUtf8());
     }
-    const std::optional<RawField> stored = lastField(d->payload.view(), key);
+    const std::optional<RawField> stored = lastField(d->payload.view(), d->lastFieldAt, key);
     if (!stored || !stored->value)
         return std::nullopt;
-    const VBytes value = stored->value->contains('\\') ? VBytes(unescapedUtf8(*stored->value))
-                                                       : d->payload.part(*stored->value);
-    return QUtf8StringView(value.view().data(), value.size()).isValidUtf8()
-        ? value
-        : VBytes(textFromUtf8(value.view()).toUtf8());
+    VBytes value = stored->value->contains('\\') ? VBytes(unescapedUtf8(*stored->value))
+                                                 : d->payload.part(*stored->value);
+    if (!QUtf8StringView(value.view().data(), value.size()).isValidUtf8())
+        value = VBytes(textFromUtf8(value.view()).toUtf8());
+    return value;
+}
+
+std::optional<VBytes> VDBRecord::stored(const QString &key) const
+{
+    const std::optional<RawField> stored = lastField(d->payload.view(), d->lastFieldAt, key);
+    if (!stored || !stored->value)
+        return std::nullopt;
+    return d->payload.part(*stored->value);
 }
 
 QStringList VDBRecord::keys() const

@@ -43,6 +43,7 @@ public:
     QByteArray encoded(const QString &culture) const;
 
     VBytes payload; ///< The fields as they stand in the file, until one of them is changed.
+    qsizetype lastFieldAt = 0; ///< Where the last field of the payload begins.
     QList<Field> fields; ///< Empty while there is a payload.
     bool isSigned = false; ///< The content is still what a matching signature was found for.
     qint64 line = 0;

@@ -184,6 +184,7 @@ VDBSalvagedRecord VDBSalvage::record(qsizetype index) const
                              .isUnfinished = line.batch != Batch::Completed};
     result.record.d->payload = VBytes(
         d->bytes, QByteArrayView(d->bytes).sliced(line.payloadAt, line.end - line.payloadAt));
+    result.record.d->lastFieldAt = lastFieldAt(result.record.d->payload.view());
     result.record.d->isSigned = line.proof != Proof::None;
     result.record.d->line = line.line;
     result.record.d->offset = line.offset;

@@ -125,10 +125,11 @@ public:
 private:
     void readHeaderCopies(const HeaderPlace &place);
     void readLine();
-    const CheckedLine *checkedHere();
+    CheckedLine *checkedHere();
     qsizetype lineFeedHere();
     bool readMark(QByteArrayView line);
-    void readSound(const CheckedLine &line);
+    void readChecked(CheckedLine &line);
+    void readSound(CheckedLine &line);
     void readDamage(QByteArrayView bytes, const CheckedLine *line);
     void readCommit(QByteArrayView payload, qsizetype size);
     void readEnd();
@@ -142,7 +143,7 @@ private:
 
     const QByteArrayView m_bytes;
     const LineCheck &m_check;
-    const std::vector<CheckedLine> m_checked;
+    std::vector<CheckedLine> m_checked;
     Contents &m_contents;
 
     qsizetype m_position = 0;
@@ -201,33 +202,35 @@ void Scanner::readHeaderCopies(const HeaderPlace &place)
 
 void Scanner::readLine()
 {
-    const CheckedLine *line = checkedHere();
-    std::optional<CheckedLine> own;
-    if (line == nullptr) {
-        const qsizetype end = lineFeedHere();
-        const QByteArrayView bytes = m_bytes.sliced(m_position, end - m_position);
-        if (bytes.isEmpty() || bytes == QByteArrayView("\r")) {
-            endLine(m_position); // Blank lines are filling and have no meaning.
-            return;
-        }
-        if (readMark(bytes))
-            return;
-        own = m_check.check(m_bytes, m_position, end);
-        if (!own) {
-            readDamage(bytes, nullptr);
-            return;
-        }
-        line = &*own;
+    if (CheckedLine *const line = checkedHere()) {
+        readChecked(*line);
+        return;
     }
-    if (line->isSound())
-        readSound(*line);
+    const qsizetype end = lineFeedHere();
+    const QByteArrayView bytes = m_bytes.sliced(m_position, end - m_position);
+    if (bytes.isEmpty() || bytes == QByteArrayView("\r")) {
+        endLine(m_position); // Blank lines are filling and have no meaning.
+        return;
+    }
+    if (readMark(bytes))
+        return;
+    if (std::optional<CheckedLine> line = m_check.check(m_bytes, m_position, end))
+        readChecked(*line);
     else
-        readDamage(m_bytes.sliced(m_position, line->size), line);
+        readDamage(bytes, nullptr);
+}
+
+void Scanner::readChecked(CheckedLine &line)
+{
+    if (line.isSound())
+        readSound(line);
+    else
+        readDamage(m_bytes.sliced(m_position, line.size), &line);
 }
 
 /// The line that begins here, if it was checked before. Damage may let a line begin in the middle
 /// of what was taken for one.
-const CheckedLine *Scanner::checkedHere()
+CheckedLine *Scanner::checkedHere()
 {
     while (m_nextChecked < m_checked.size() && m_checked[m_nextChecked].begin < m_position)
         ++m_nextChecked;
@@ -305,38 +308,45 @@ Entry Scanner::newEntry(LineKind kind, qsizetype size, Reason damage) const
     entry.size = size;
     entry.line = m_line;
     entry.damage = damage;
-    const qint64 end = m_position + size;
-    entry.hasLineFeed = end < m_bytes.size() && m_bytes[end] == '\n';
     return entry;
 }
 
 /// Takes note of a sound insert, removal or commit.
-void Scanner::readSound(const CheckedLine &line)
+void Scanner::readSound(CheckedLine &line)
 {
     if (line.kind == LineKind::Commit) {
         readCommit(m_bytes.sliced(m_position + line.payloadAt, line.soundSize - line.payloadAt),
                    line.soundSize);
     } else {
         Entry entry = newEntry(line.kind, line.soundSize, Reason::NotALine);
+        entry.hasLineFeed = line.hasLineFeed;
         entry.payloadAt = line.payloadAt;
-        std::copy(line.sum.begin(), line.sum.end(), entry.sum.begin());
-        entry.id = line.id;
+        entry.lastFieldAt = line.lastFieldAt;
+        entry.sum = line.sum;
+        entry.id = std::move(line.id);
         entry.isSound = true;
         m_pending.push_back(std::move(entry));
     }
-    endLine(m_position + line.soundSize);
+    if (line.hasLineFeed) {
+        m_position += line.soundSize + 1;
+        ++m_line;
+    } else {
+        endLine(m_position + line.soundSize);
+    }
 }
 
 /// Takes note of a line that cannot be used; `line` is null when it has no known shape.
 void Scanner::readDamage(QByteArrayView bytes, const CheckedLine *line)
 {
     Entry entry = newEntry(LineKind::Insert, bytes.size(), Reason::NotALine);
+    entry.hasLineFeed = bytes.end() != m_bytes.end() && *bytes.end() == '\n';
     entry.looksTorn = QByteArrayView("+-=\0", 4).contains(bytes[0]);
     if (line != nullptr) {
         entry.kind = line->kind;
         entry.damage = line->kind == LineKind::Commit ? Reason::BadCommit : Reason::BadSignature;
         entry.isRecord = line->kind == LineKind::Insert;
         entry.payloadAt = line->payloadAt;
+        entry.lastFieldAt = line->lastFieldAt;
         entry.id = line->id;
     } else if (bytes.startsWith(m_contents.headerLine)) {
         entry.damage = Reason::BadHeader;
@@ -353,6 +363,7 @@ void Scanner::readCommit(QByteArrayView payload, qsizetype size)
 {
     const auto count = findField(payload, u"lines"_s).toULongLong();
     std::vector<std::size_t> lines;
+    lines.reserve(m_pending.size());
     for (std::size_t i = 0; i < m_pending.size(); ++i) {
         if (m_pending[i].isSound || m_pending[i].isRecord)
             lines.push_back(i);
@@ -361,6 +372,7 @@ void Scanner::readCommit(QByteArrayView payload, qsizetype size)
     const std::size_t skipped = lines.size() > count ? lines.size() - std::size_t(count) : 0;
     bool complete = lines.size() - skipped == count;
     QByteArray sums;
+    sums.reserve(qsizetype(lines.size()) * kSumLength);
     for (std::size_t i = skipped; i < lines.size(); ++i) {
         sums += QByteArrayView(m_pending[lines[i]].sum);
         complete = complete && m_pending[lines[i]].isSound;

@@ -118,6 +118,7 @@ VDBRecord VDBTextPrivate::recordAt(qsizetype ordinal) const
     record.d->payload = VBytes(
         bytes,
         QByteArrayView(bytes).sliced(entry.offset + entry.payloadAt, entry.size - entry.payloadAt));
+    record.d->lastFieldAt = entry.lastFieldAt;
     record.d->isSigned = entry.isSound;
     record.d->line = entry.line;
     record.d->offset = entry.offset;

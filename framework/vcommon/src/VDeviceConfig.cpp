@@ -297,7 +297,7 @@ bool VDeviceConfig::load(QIODevice *device)
 bool VDeviceConfig::setJsonObject(const QJsonObject &object)
 {
     const QUuid kind = uuidFromJson(object.value(EnvelopeKey::kId));
-    return !kind.isNull() && kind == id() && readEnvelope(object, *registeredPrototypes());
+    return !kind.isNull() && kind == id() && readEnvelope(object, registeredPrototypes());
 }
 
 bool VDeviceConfig::readConfig(const QJsonObject &config)

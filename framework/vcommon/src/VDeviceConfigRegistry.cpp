@@ -14,6 +14,9 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QMutex>
 
+#include <atomic>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace Norvane::Hardware {
@@ -30,8 +33,13 @@ struct Prototype
 
 struct Registry
 {
+    Registry() { _publish(); }
+
     QMutex mutex;
-    std::shared_ptr<const Prototypes> prototypes = std::make_shared<Prototypes>();
+    /// The last of those published. All threads that read records look here for each of them, so
+    /// nothing is locked or counted.
+    std::atomic<const Prototypes *> prototypes;
+    std::vector<std::unique_ptr<const Prototypes>> published; ///< Some may be in use for ever.
     std::vector<Prototype> known; ///< In the order of registration; of a kind the last one counts.
     std::vector<IVDeviceConfig *> kept; ///< All that were ever registered, forgotten ones too.
 
@@ -39,14 +47,15 @@ struct Registry
     /// reads records at this moment goes on with those that were registered before.
     void _publish()
     {
-        auto published = std::make_shared<Prototypes>();
+        auto next = std::make_unique<Prototypes>();
         for (const Prototype &each : known) {
             const Prototypes::Kind kind{each.config, codecOf(each.config)};
-            published->byId.insert(each.kind, kind);
+            next->byId.insert(each.kind, kind);
             if (!each.kind.isNull()) // No envelope names that one.
-                published->byText.insert(each.kind.toByteArray(), kind);
+                next->byText.insert(each.kind.toByteArray(), kind);
         }
-        prototypes = std::move(published);
+        prototypes = next.get();
+        published.push_back(std::move(next));
     }
 };
 
@@ -60,16 +69,15 @@ Registry &registry()
 IVDeviceConfig *configFromTree(const QByteArray &json)
 {
     const QJsonDocument document = QJsonDocument::fromJson(json);
-    return document.isObject() ? registeredPrototypes()->create(document.object()).release()
+    return document.isObject() ? registeredPrototypes().create(document.object()).release()
                                : nullptr;
 }
 
 } // namespace
 
-std::shared_ptr<const Prototypes> registeredPrototypes()
+const Prototypes &registeredPrototypes()
 {
-    const QMutexLocker locker(&registry().mutex);
-    return registry().prototypes;
+    return *registry().prototypes;
 }
 
 const VDeviceConfigCodec *codecOf(const IVDeviceConfig *prototype)
@@ -136,29 +144,39 @@ void VDeviceConfig::unregisterConfig(const IVDeviceConfig *prototype)
 
 bool VDeviceConfig::isRegistered(const QUuid &id)
 {
-    return registeredPrototypes()->byId.contains(id);
+    return registeredPrototypes().byId.contains(id);
 }
 
 IVDeviceConfig *VDeviceConfig::fromJson(const QByteArray &json)
 {
     VJsonText text;
-    return text.parse(json) ? registeredPrototypes()->create(text.object()).release()
+    return text.parse(json) ? registeredPrototypes().create(text.object()).release()
                             : configFromTree(json);
 }
 
 IVDeviceConfig *VDeviceConfig::fromJson(const VBytes &json)
 {
     VJsonText text;
-    if (!text.parse(json.view()))
-        return configFromTree(json.toByteArray());
-    const auto prototypes = registeredPrototypes();
+    return text.parse(json.view()) ? fromText(text, json) : configFromTree(json.toByteArray());
+}
+
+IVDeviceConfig *VDeviceConfig::fromPlainJson(const VBytes &json)
+{
+    VJsonText text;
+    return text.parse(json.view()) ? fromText(text, json) : nullptr;
+}
+
+/// A record of the text that `json` holds, decoded at its first use if possible.
+IVDeviceConfig *VDeviceConfig::fromText(const VJsonText &text, const VBytes &json)
+{
+    const Prototypes &prototypes = registeredPrototypes();
     const VJsonTextObject envelope = text.object();
-    const auto [prototype, codec] = prototypes->find(envelope);
+    const auto [prototype, codec] = prototypes.find(envelope);
     QExplicitlySharedDataPointer<LateConfig> late;
     if (codec != nullptr)
         late = LateConfig::create(json, envelope, prototypes, *codec);
     if (!late)
-        return prototypes->create(envelope).release();
+        return prototypes.create(envelope).release();
     auto *config = static_cast<VDeviceConfig *>(static_cast<IVDeviceConfig *>(prototype->clone()));
     config->m_late = late;
     config->clearMetadata();

@@ -42,8 +42,8 @@ private:
     Kind find(const QUuid &id) const;
 };
 
-/// What is registered now. What is registered later does not show in it.
-std::shared_ptr<const Prototypes> registeredPrototypes();
+/// What is registered now. What is registered later does not show in it. It is never deleted.
+const Prototypes &registeredPrototypes();
 
 /// The codec of the records that `prototype` makes; null when it has none.
 const VDeviceConfigCodec *codecOf(const Interfaces::IVDeviceConfig *prototype);

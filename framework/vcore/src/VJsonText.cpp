@@ -95,8 +95,9 @@ VJsonTextValue VJsonTextObject::value(QLatin1StringView key) const
     // The token of a key stands right before that of its value.
     for (quint32 member = m_value.m_token + 1; member < end; member = tokens[member + 1].next) {
         const auto &token = tokens[member];
+        // Not by the C library: most names of this length differ in their first character.
         if (qsizetype(token.end - token.begin) == key.size()
-            && std::equal(key.begin(), key.end(), bytes + token.begin))
+            && std::equal(key.begin(), key.end(), bytes + token.begin, std::equal_to<char>()))
             return {m_value.m_text, member + 1};
     }
     return {};
@@ -131,16 +132,6 @@ QJsonArray VJsonTextArray::toJsonArray() const
 VJsonTextObject VJsonText::object() const
 {
     return m_tokens.isEmpty() ? VJsonTextObject() : VJsonTextObject(VJsonTextValue(this, 0));
-}
-
-bool VJsonText::hasKey(QLatin1StringView key) const
-{
-    for (const Token &token : m_tokens) {
-        if (token.kind == Kind::Key && qsizetype(token.end - token.begin) == key.size()
-            && std::equal(key.begin(), key.end(), m_bytes + token.begin))
-            return true;
-    }
-    return false;
 }
 
 } // namespace Norvane

@@ -13,8 +13,9 @@ namespace Norvane {
 
 namespace {
 
-/// Pieces for each thread: one that is held up leaves the rest to the others.
-constexpr std::size_t kPiecesPerThread = 8;
+/// Pieces for each thread: one that is held up leaves the rest to the others, and at the end all
+/// wait for one piece at most.
+constexpr std::size_t kPiecesPerThread = 32;
 
 } // namespace
 

@@ -109,6 +109,9 @@ public:
     /// text that is in order, is only decoded when it or a copy of it is first looked at. That does
     /// not show but in the time it takes.
     static Interfaces::IVDeviceConfig *fromJson(const VBytes &json);
+    /// The same for bytes that may have to be decoded first: null as well when they are not plain JSON
+    /// (see VJsonText), which has no backslash and is UTF-8.
+    static Interfaces::IVDeviceConfig *fromPlainJson(const VBytes &json);
 
     /// The compact JSON text of toJsonObject().
     QByteArray toJson() const;
@@ -162,6 +165,7 @@ private:
     friend class VDeviceConfigChildren;
     friend const VDeviceConfigCodec *codecOf(const Interfaces::IVDeviceConfig *);
 
+    static Interfaces::IVDeviceConfig *fromText(const VJsonText &text, const VBytes &json);
     void decode() const;
     const VDeviceConfigPrivate &fields() const;
     VDeviceConfigPrivate &own();

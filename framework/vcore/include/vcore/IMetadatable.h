@@ -46,6 +46,8 @@ public:
     /// The entries in ascending key order; they stay this object's.
     virtual QList<IMetadata *> metadataList() const
     {
+        if (m_entries.isEmpty())
+            return {}; // The usual case, for which an empty QHash would allocate.
         QList<IMetadata *> list = m_entries.values();
         std::sort(list.begin(), list.end(),
                   [](const IMetadata *a, const IMetadata *b) { return a->key() < b->key(); });

@@ -37,8 +37,6 @@ public:
 
     /// The object that the text is.
     VJsonTextObject object() const;
-    /// Whether a key of any object in the text is `key`.
-    bool hasKey(QLatin1StringView key) const;
 
 private:
     friend class VJsonTextValue;
@@ -133,8 +131,6 @@ public:
 
     /// The value of `key`; undefined when there is none.
     VJsonTextValue value(QLatin1StringView key) const;
-    /// The text that the object is part of; it must not be an empty object of no text.
-    const VJsonText &text() const { return *m_value.m_text; }
     /// The same as a tree of values.
     QJsonObject toJsonObject() const;
 
