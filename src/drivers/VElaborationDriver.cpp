@@ -95,7 +95,8 @@ Interfaces::ICloneable *VElaborationDriver::clone() const
 
 QUuid VElaborationDriver::id() const
 {
-    return QUuid(u"{488e105b-5aac-427d-92d3-1de3f94f8c7f}"_s);
+    static const QUuid kind(u"{488e105b-5aac-427d-92d3-1de3f94f8c7f}"_s);
+    return kind;
 }
 
 bool VElaborationDriver::equalsTo(const Interfaces::IEquatable *other) const

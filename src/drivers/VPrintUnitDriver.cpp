@@ -84,7 +84,8 @@ Interfaces::ICloneable *VPrintUnitDriver::clone() const
 
 QUuid VPrintUnitDriver::id() const
 {
-    return QUuid(u"{8f5c90c1-c516-487b-bd10-603583444346}"_s);
+    static const QUuid kind(u"{8f5c90c1-c516-487b-bd10-603583444346}"_s);
+    return kind;
 }
 
 bool VPrintUnitDriver::equalsTo(const Interfaces::IEquatable *other) const

@@ -89,7 +89,8 @@ Interfaces::ICloneable *VPrinterDriver::clone() const
 
 QUuid VPrinterDriver::id() const
 {
-    return QUuid(u"{06b1a6eb-628e-45e5-8d80-eb92a4f22e4e}"_s);
+    static const QUuid kind(u"{06b1a6eb-628e-45e5-8d80-eb92a4f22e4e}"_s);
+    return kind;
 }
 
 bool VPrinterDriver::equalsTo(const Interfaces::IEquatable *other) const

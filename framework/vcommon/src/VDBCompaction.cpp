@@ -11,8 +11,7 @@ Compaction::Compaction(const Contents &contents, const Signer &signer)
 {
     m_contents.header = contents.header;
     m_contents.headerLine = contents.headerLine;
-    m_contents.entries.reserve(std::size_t(contents.index.size()));
-    m_contents.index.reserve(contents.index.size());
+    m_contents.reserve(std::size_t(contents.index.size()));
     addBytes(contents.headerLine + '\n' + contents.headerLine + '\n');
     QByteArray sums;
     for (const Entry &entry : contents.entries) {

@@ -7,6 +7,13 @@
 
 namespace Norvane::Database {
 
+void Contents::reserve(std::size_t count)
+{
+    const std::size_t some = count + count / 4;
+    entries.reserve(some);
+    index.reserve(qsizetype(some));
+}
+
 void Contents::add(Entry &&entry)
 {
     if (entry.isSound && entry.kind == LineKind::Remove) {

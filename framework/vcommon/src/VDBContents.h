@@ -57,6 +57,8 @@ struct Contents
 
     std::size_t deadCount = 0; ///< How many entries are dead.
 
+    /// Makes room for so many entries, and for some more: the next commit must not move them all.
+    void reserve(std::size_t count);
     /// Appends a sound entry, or a damaged record: later lines of a key stand for earlier ones.
     void add(Entry &&entry);
     /// Marks every live entry of the key as dead.

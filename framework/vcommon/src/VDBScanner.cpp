@@ -461,8 +461,7 @@ Contents scan(QByteArrayView bytes, const Signer &signer, const VDBReporter &rep
     const QByteArrayView content = withoutFilling(bytes);
     const LineCheck check{.signer = signer, .keyField = contents.header.keyField};
     std::vector<CheckedLine> checked = check.checkAll(content, pieceSize);
-    contents.index.reserve(qsizetype(checked.size()));
-    contents.entries.reserve(checked.size());
+    contents.reserve(checked.size());
     Scanner scanner(content, check, std::move(checked), contents);
     scanner.run(place);
     if (reporter) {

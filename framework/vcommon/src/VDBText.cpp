@@ -63,10 +63,11 @@ void VDBText::close()
 
 void VDBText::setKey(const QString &key, const QString &extra)
 {
-    if (key != d->key)
+    if (key != d->key) {
         d->forget(); // Whether a record is sound depends on the key.
+        d->signer = Signer(key);
+    }
     d->key = key;
-    d->signer = Signer(key);
     d->intent = extra.isNull() ? Device::Intent::Write : Device::Intent::Read;
 }
 

@@ -50,8 +50,25 @@ template void VDeviceConfigPrivate::readJson(const VJsonTextObject &);
 
 QString VDeviceConfigPrivate::dateTimeText() const
 {
+    const QDate date = dateTime.date();
+    const QTime time = dateTime.time();
     // ISO text covers the years 0 to 9999 only; a moment beyond them has none.
-    return dateTime.isValid() ? dateTime.toString(Qt::ISODateWithMs) : QString();
+    if (!dateTime.isValid() || date.year() < 0 || date.year() > 9999)
+        return {};
+    // As Qt::ISODateWithMs, which took a seventh of the time that a record's text takes.
+    char text[] = "0000-00-00T00:00:00.000Z";
+    const auto put = [&text](int number, std::size_t end) {
+        for (; number > 0; number /= 10)
+            text[--end] = char('0' + number % 10);
+    };
+    put(date.year(), 4);
+    put(date.month(), 7);
+    put(date.day(), 10);
+    put(time.hour(), 13);
+    put(time.minute(), 16);
+    put(time.second(), 19);
+    put(time.msec(), 23);
+    return QString::fromLatin1(text);
 }
 
 bool VDeviceConfigPrivate::sameFields(const VDeviceConfigPrivate &other) const

@@ -10,7 +10,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <iterator>
 
 namespace Norvane {
 
@@ -41,9 +40,19 @@ char shortEscape(char16_t c)
     }
 }
 
-bool isPlain(char16_t c)
+/// Whether a character needs an escape or more than one byte. Without branches, so that many are
+/// compared at a time.
+char16_t isOdd(char16_t c)
 {
-    return c >= 0x20 && c < 0x80 && c != u'"' && c != u'\\';
+    return char16_t(c < 0x20) | char16_t(c >= 0x80) | char16_t(c == u'"') | char16_t(c == u'\\');
+}
+
+bool isPlain(QStringView text)
+{
+    char16_t found = 0;
+    for (const QChar c : text)
+        found |= isOdd(c.unicode());
+    return found == 0;
 }
 
 void appendEscape(std::string &text, char16_t c)
@@ -58,21 +67,29 @@ void appendEscape(std::string &text, char16_t c)
         text += "0123456789abcdef"[(c >> shift) & 0xF];
 }
 
-/// Appends what follows the plain characters at the start of a string.
-void appendFrom(std::string &text, QStringView rest)
+void appendPlainText(std::string &text, QStringView plain)
 {
-    for (qsizetype i = 0; i < rest.size(); ++i) {
-        const QChar c = rest.at(i);
+    const std::size_t at = text.size();
+    text.resize(at + std::size_t(plain.size()));
+    std::transform(plain.begin(), plain.end(), text.begin() + std::ptrdiff_t(at),
+                   [](QChar c) { return char(c.unicode()); });
+}
+
+/// Appends a string that is not plain all over.
+void appendOddText(std::string &text, QStringView odd)
+{
+    for (qsizetype i = 0; i < odd.size(); ++i) {
+        const QChar c = odd.at(i);
         const bool isPair =
-            c.isHighSurrogate() && i + 1 < rest.size() && rest.at(i + 1).isLowSurrogate();
-        if (isPlain(c.unicode())) {
+            c.isHighSurrogate() && i + 1 < odd.size() && odd.at(i + 1).isLowSurrogate();
+        if (!isOdd(c.unicode())) {
             text += char(c.unicode());
         } else if (isPair) {
-            text += rest.sliced(i++, 2).toUtf8().toStdString();
+            text += odd.sliced(i++, 2).toUtf8().toStdString();
         } else if (c.isSurrogate() || c.unicode() < 0x80) {
             appendEscape(text, c.unicode());
         } else {
-            text += rest.sliced(i, 1).toUtf8().toStdString();
+            text += odd.sliced(i, 1).toUtf8().toStdString();
         }
     }
 }
@@ -97,11 +114,10 @@ void VJsonTextWriter::append(const QString &value)
 {
     separate();
     m_text += '"';
-    const auto *const special =
-        std::find_if_not(value.begin(), value.end(), [](QChar c) { return isPlain(c.unicode()); });
-    std::transform(value.begin(), special, std::back_inserter(m_text),
-                   [](QChar c) { return char(c.unicode()); });
-    appendFrom(m_text, QStringView(value).sliced(special - value.begin()));
+    if (isPlain(value))
+        appendPlainText(m_text, value);
+    else
+        appendOddText(m_text, value);
     m_text += '"';
 }
 

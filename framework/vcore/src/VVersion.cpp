@@ -3,7 +3,8 @@
 
 #include <vcore/VVersion.h>
 
-#include <QtCore/QByteArray>
+#include <array>
+#include <charconv>
 
 namespace Norvane {
 
@@ -27,10 +28,14 @@ int numberFromText(QStringView text)
 
 QString VVersion::toString() const
 {
-    QByteArray text = QByteArray::number(majorNumber());
-    text.append('.').append(QByteArray::number(minorNumber()));
-    text.append('.').append(QByteArray::number(patchNumber()));
-    return QString::fromLatin1(text);
+    std::array<char, 12> text{}; // Three numbers of three digits at most.
+    char *end = text.data();
+    for (const int number : {majorNumber(), minorNumber(), patchNumber()}) {
+        if (end != text.data())
+            *end++ = '.';
+        end = std::to_chars(end, text.data() + text.size(), number).ptr;
+    }
+    return QString::fromLatin1(text.data(), end - text.data());
 }
 
 VVersion VVersion::fromString(const QString &text, bool *ok)
