@@ -11,8 +11,9 @@ namespace Norvane::Hardware {
 
 namespace {
 
-/// Whether what the envelope holds can wait. Metadata cannot: they live in the record itself, and not
-/// all of them travel to its copies. Nor can children that code of others decodes: it would notice.
+/// Whether what the envelope holds can wait. Metadata cannot: they live in the record itself, and
+/// not all of them travel to its copies. Nor can children that code of others decodes: it would
+/// notice.
 bool canWait(const VJsonTextObject &envelope, const Prototypes &prototypes)
 {
     if (!envelope.value(EnvelopeKey::kMetadata).isUndefined())

@@ -26,8 +26,8 @@ QByteArray textOf(const Digest &digest)
     return QByteArray::fromRawData(digest.data(), digest.size()).toBase64(kBase64);
 }
 
-/// Whether `c` needs an escape. It is compared with all of them at once, without branches: only then
-/// are many bytes compared at a time.
+/// Whether `c` needs an escape. It is compared with all of them at once, without branches: only
+/// then are many bytes compared at a time.
 bool needsEscape(char c, char inKeys)
 {
     return (uchar(c) < 0x20) | (c == '\\') | (c == inKeys);

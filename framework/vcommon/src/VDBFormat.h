@@ -72,8 +72,8 @@ struct RawField
 RawField takeField(QByteArrayView &payload);
 /// Where the last field of a payload begins.
 qsizetype lastFieldAt(QByteArrayView payload);
-/// The last field `key`, which is the one that counts; nothing when there is none. `lastAt` is where
-/// the last of all begins.
+/// The last field `key`, which is the one that counts; nothing when there is none. `lastAt` is
+/// where the last of all begins.
 std::optional<RawField> lastField(QByteArrayView payload, qsizetype lastAt, const QString &key);
 /// The value of the first field `key`; a null text when it is missing or null. Decodes nothing
 /// else.

@@ -49,8 +49,8 @@ std::optional<CheckedLine> LineCheck::check(QByteArrayView content, qsizetype be
     checked.soundSize = soundSize(*line, bytes);
     checked.payloadAt = line->payload.data() - bytes.data();
     checked.kind = line->kind;
-    // Copied and found out now, while the line is at hand: by the time that all are checked, the first
-    // ones are far away from the processor again.
+    // Copied and found out now, while the line is at hand: by the time that all are checked, the
+    // first ones are far away from the processor again.
     if (checked.isSound())
         std::copy(line->sum.begin(), line->sum.end(), checked.sum.begin());
     const qsizetype soundEnd = begin + checked.soundSize;

@@ -110,8 +110,8 @@ qsizetype sequenceLength(const char *at, const char *end)
     return 0;
 }
 
-/// The first eight bytes of a name as a number that sorts like them; 0 at the end of the text, where
-/// there are fewer.
+/// The first eight bytes of a name as a number that sorts like them; 0 at the end of the text,
+/// where there are fewer.
 quint64 startOf(QByteArrayView name, const char *end)
 {
     constexpr qsizetype kSize = sizeof(quint64);

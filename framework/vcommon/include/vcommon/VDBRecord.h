@@ -49,8 +49,8 @@ public:
     /// The value of the field `key` as valid UTF-8; nothing when it is missing or null. These are
     /// the stored bytes themselves, shared and not copied, unless they contain escapes.
     std::optional<VBytes> utf8(const QString &key) const;
-    /// The same as it stands in the file, unread: a backslash begins an escape, and bytes that are no
-    /// UTF-8 are still there. Nothing when the record is in no file, or was changed.
+    /// The same as it stands in the file, unread: a backslash begins an escape, and bytes that are
+    /// no UTF-8 are still there. Nothing when the record is in no file, or was changed.
     std::optional<VBytes> stored(const QString &key) const;
     /// The keys in order.
     QStringList keys() const;

@@ -109,8 +109,8 @@ public:
     /// text that is in order, is only decoded when it or a copy of it is first looked at. That does
     /// not show but in the time it takes.
     static Interfaces::IVDeviceConfig *fromJson(const VBytes &json);
-    /// The same for bytes that may have to be decoded first: null as well when they are not plain JSON
-    /// (see VJsonText), which has no backslash and is UTF-8.
+    /// The same for bytes that may have to be decoded first: null as well when they are not plain
+    /// JSON (see VJsonText), which has no backslash and is UTF-8.
     static Interfaces::IVDeviceConfig *fromPlainJson(const VBytes &json);
 
     /// The compact JSON text of toJsonObject().
