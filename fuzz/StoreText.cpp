@@ -165,10 +165,13 @@ std::optional<QByteArray> keyFieldOf(QByteArrayView file)
     return std::nullopt;
 }
 
-std::optional<QByteArray> recordKeyAt(QByteArrayView file, qsizetype offset,
+std::optional<QByteArray> recordKeyAt(QByteArrayView file, qsizetype offset, bool isSound,
                                       const QByteArray &keyField)
 {
-    const QByteArrayView payload = payloadOf(lineFrom(file, offset));
+    const QByteArrayView line = lineFrom(file, offset);
+    // A damaged one is read to its end, even if a sum is right that its code does not vouch for.
+    const QByteArrayView payload =
+        isSound ? payloadOf(line) : line.sliced(std::max(payloadAt(line), qsizetype(0)));
     for (const QByteArray &field : payload.toByteArray().split('\t')) {
         if (!field.startsWith(keyField + '='))
             continue;

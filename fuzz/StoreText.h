@@ -50,7 +50,7 @@ std::optional<QByteArray> keyFieldOf(QByteArrayView file);
 
 /// The key of the record whose line begins at `offset`, as the file spells it; nothing when it
 /// holds an escape. Null when there is none.
-std::optional<QByteArray> recordKeyAt(QByteArrayView file, qsizetype offset,
+std::optional<QByteArray> recordKeyAt(QByteArrayView file, qsizetype offset, bool isSound,
                                       const QByteArray &keyField);
 
 } // namespace Fuzz

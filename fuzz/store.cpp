@@ -168,7 +168,7 @@ std::optional<Records> expected(const QByteArray &bytes, const Records &records,
 {
     Records left;
     for (const Record &record : records) {
-        const auto key = Fuzz::recordKeyAt(bytes, record.offset, edit.keyField);
+        const auto key = Fuzz::recordKeyAt(bytes, record.offset, record.isSound, edit.keyField);
         if (!key)
             return std::nullopt;
         const QString id = textOf(*key);
@@ -196,7 +196,7 @@ Edit editFor(const QByteArray &bytes, const Records &records, const StoreControl
     Edit edit{keyField, "fuzzed", QString::fromUtf8(text), {}};
     QList<QByteArray> keys;
     for (const Record &record : records) {
-        const auto key = Fuzz::recordKeyAt(bytes, record.offset, keyField);
+        const auto key = Fuzz::recordKeyAt(bytes, record.offset, record.isSound, keyField);
         if (record.isSound && key && !key->isEmpty() && *key != "fuzzed")
             keys.append(*key);
     }
