@@ -165,7 +165,8 @@ private:
     friend class VDeviceConfigChildren;
     friend const VDeviceConfigCodec *codecOf(const Interfaces::IVDeviceConfig *);
 
-    static Interfaces::IVDeviceConfig *fromText(const VJsonText &text, const VBytes &json);
+    Q_DECL_HIDDEN static Interfaces::IVDeviceConfig *fromText(const VJsonText &text,
+                                                              const VBytes &json);
     void decode() const;
     const VDeviceConfigPrivate &fields() const;
     VDeviceConfigPrivate &own();
