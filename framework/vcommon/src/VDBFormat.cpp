@@ -23,7 +23,7 @@ constexpr qsizetype kMaxLengthDigits = 15;
 
 QByteArray textOf(const Digest &digest)
 {
-    return QByteArray::fromRawData(digest.data(), digest.size()).toBase64(kBase64);
+    return QByteArray::fromRawData(digest.data(), qsizetype(digest.size())).toBase64(kBase64);
 }
 
 /// Whether `c` needs an escape. It is compared with all of them at once, without branches: only
