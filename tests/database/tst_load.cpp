@@ -54,18 +54,17 @@ QByteArray sumOf(const QByteArray &bytes)
 }
 
 /// A line with its sum, made by hand: a record may hold bytes then that no text has.
-QByteArray signedLine(const QByteArray &kind, const QByteArray &payload, QByteArray &sum)
+QByteArray signedLine(const QByteArray &kind, const QByteArray &payload)
 {
-    sum = sumOf(kind + payload);
-    return kind + '\t' + QByteArray::number(payload.size()) + '\t' + sum + "\t-\t" + payload + '\n';
+    return kind + '\t' + QByteArray::number(payload.size()) + '\t' + sumOf(kind + payload) + "\t-\t"
+        + payload + '\n';
 }
 
 /// A file of one record with this payload.
 QByteArray fileWithPayload(const QByteArray &payload)
 {
-    QByteArray sum;
-    const QByteArray line = signedLine("+", payload, sum);
-    return fileWith({}) + line + signedLine("=", "lines=1\tdigest=" + sumOf(sum), sum);
+    return fileWith({}) + signedLine("+", payload)
+        + signedLine("=", "lines=1\tdigest=" + sumOf(sumOf("+" + payload)));
 }
 
 /// The names of the entries that a database finds in the file.

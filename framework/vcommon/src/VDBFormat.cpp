@@ -221,15 +221,16 @@ QString findField(QByteArrayView payload, const QString &key)
 }
 
 Signer::Signer(const QString &key)
+{
     // Lines are signed with a key derived from the given one, so that the check in the header and
     // the codes of the lines never stand for each other.
-    : m_isKeyed(!key.isEmpty())
-    , m_codes(Hmac(key.toUtf8()).of("vdbtext line key"))
-{ }
+    if (!key.isEmpty())
+        m_codes.emplace(Hmac(key.toUtf8()).of("vdbtext line key"));
+}
 
 QByteArray Signer::keyCheck() const
 {
-    return isKeyed() ? textOf(m_codes.of("vdbtext key check")) : QByteArray();
+    return m_codes ? textOf(m_codes->of("vdbtext key check")) : QByteArray();
 }
 
 QByteArray Signer::sum(LineKind kind, QByteArrayView payload)
@@ -245,7 +246,7 @@ QByteArray Signer::sum(QByteArrayView bytes)
 
 QByteArray Signer::code(QByteArrayView sum) const
 {
-    return isKeyed() ? textOf(m_codes.of(sum)) : "-"_ba;
+    return m_codes ? textOf(m_codes->of(sum)) : "-"_ba;
 }
 
 QByteArray encodeHeader(const Header &header)

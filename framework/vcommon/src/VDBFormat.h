@@ -86,7 +86,7 @@ public:
     /// An empty key signs with sums alone.
     explicit Signer(const QString &key = QString());
 
-    bool isKeyed() const { return m_isKeyed; }
+    bool isKeyed() const { return m_codes.has_value(); }
     /// Tells this key from others, without telling the key. Empty without a key.
     QByteArray keyCheck() const;
     /// The sum of a line, as text: 43 characters.
@@ -96,8 +96,7 @@ public:
     QByteArray code(QByteArrayView sum) const;
 
 private:
-    bool m_isKeyed;
-    Hmac m_codes;
+    std::optional<Hmac> m_codes; ///< Nothing without a key.
 };
 
 /// What stands in a header.
