@@ -167,10 +167,11 @@ bool VPrintersDb::_insert(const QList<VPrinterDriver> &drivers)
 {
     for (const VPrinterDriver &driver : drivers) {
         const QUuid id = driver.dataId();
-        d->drivers.remove(id);
         d->volatileIds.remove(id);
         if (driver.isValid())
             d->drivers.insert(id, driver);
+        else
+            d->drivers.remove(id);
         d->dirtyIds.insert(id);
     }
     return !drivers.isEmpty();
@@ -212,7 +213,7 @@ bool VPrintersDb::_removes(const QList<QUuid> &ids)
 {
     bool anyRemoved = false;
     for (const QUuid &id : ids) {
-        if (d->drivers.remove(id) == 0)
+        if (!d->drivers.remove(id))
             continue;
         d->dirtyIds.insert(id);
         anyRemoved = true;
@@ -229,9 +230,9 @@ QString VPrintersDb::_createUniqueName(const QUuid &id, const QString &name,
                                        const QString &suffix) const
 {
     QSet<QString> taken;
-    for (auto it = d->drivers.cbegin(); it != d->drivers.cend(); ++it) {
-        if (it.key() != id)
-            taken.insert(it->name());
+    for (const QUuid &other : d->drivers.keys()) {
+        if (other != id)
+            taken.insert(d->drivers.find(other)->name());
     }
     // Null says that there is no name, so an empty one must not be null.
     const QString base = u""_s + name.section(u" - "_s, 0, 0) + suffix;

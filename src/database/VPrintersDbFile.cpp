@@ -39,48 +39,31 @@ bool openOrCreate(VDBText &store, QIODevice *device)
     return store.status() == Database::VDBStatus::NotEmpty && store.open(device);
 }
 
-/// The drivers that there are by their ids; of one id, the last.
-QMap<QUuid, VPrinterDriver> mapOf(std::vector<std::unique_ptr<VPrinterDriver>> drivers)
-{
-    // In about the map's order each finds its place at once, at the end.
-    std::vector<std::pair<quint32, std::size_t>> order;
-    order.reserve(drivers.size());
-    for (std::size_t i = 0; i < drivers.size(); ++i) {
-        if (drivers[i])
-            order.emplace_back(drivers[i]->dataId().data1, i);
-    }
-    std::sort(order.begin(), order.end());
-    QMap<QUuid, VPrinterDriver> map;
-    for (const auto &[start, i] : order) {
-        map.insert(map.cend(), drivers[i]->dataId(), *drivers[i]);
-        drivers[i].reset();
-    }
-    return map;
-}
-
 /// Nothing when the store cannot be read; an unchanged one is not read before it is asked for.
-std::optional<QMap<QUuid, VPrinterDriver>> readDrivers(VDBText &store)
+std::optional<DriverMap> readDrivers(VDBText &store)
 {
     const QList<VDBRecord> records = store.values();
     if (store.status() != Database::VDBStatus::Ok)
         return std::nullopt;
-    std::vector<std::unique_ptr<VPrinterDriver>> read(std::size_t(records.size()));
+    std::vector<DriverMap::Item> read(std::size_t(records.size()));
     parallelFor(read.size(), kRecordsWorthAThread, [&](std::size_t begin, std::size_t end) {
-        for (std::size_t i = begin; i < end; ++i)
-            read[i] = DriverRecord::toDriver(records.at(qsizetype(i)));
+        for (std::size_t i = begin; i < end; ++i) {
+            read[i].driver = DriverRecord::toDriver(records.at(qsizetype(i)));
+            if (read[i].driver)
+                read[i].id = read[i].driver->dataId();
+        }
     });
-    return mapOf(std::move(read));
+    return DriverMap(std::move(read));
 }
 
 /// Puts the drivers under `ids` into the store, and takes those out that are gone or not valid.
-void writeDrivers(VDBText &store, const QList<QUuid> &ids,
-                  const QMap<QUuid, VPrinterDriver> &drivers)
+void writeDrivers(VDBText &store, const QList<QUuid> &ids, const DriverMap &drivers)
 {
     std::vector<VDBRecord> records(std::size_t(ids.size()));
     parallelFor(records.size(), kRecordsWorthAThread, [&](std::size_t begin, std::size_t end) {
         for (std::size_t i = begin; i < end; ++i) {
-            const auto driver = drivers.constFind(ids.at(qsizetype(i)));
-            if (driver != drivers.constEnd() && driver->isValid())
+            const VPrinterDriver *const driver = drivers.find(ids.at(qsizetype(i)));
+            if (driver != nullptr && driver->isValid())
                 records[i] = DriverRecord::fromDriver(*driver);
         }
     });
@@ -99,7 +82,7 @@ void VPrintersDb::_init()
 {
     const auto guard = d->locked();
     d->setKeyToRead();
-    std::optional<QMap<QUuid, VPrinterDriver>> loaded;
+    std::optional<DriverMap> loaded;
     if (d->device && openOrCreate(d->store, d->device)) {
         loaded = readDrivers(d->store);
         d->store.close();

@@ -4,11 +4,11 @@
 #pragma once
 
 #include "DbJobs.h"
+#include "DriverMap.h"
 
 #include <kilnjet/VPrinterDriver.h>
 #include <vcommon/VDBText.h>
 
-#include <QtCore/QMap>
 #include <QtCore/QSet>
 
 #include <atomic>
@@ -44,12 +44,13 @@ public:
     /// The entry under `id`, or an empty driver.
     VPrinterDriver value(const QUuid &id) const
     {
-        return drivers.value(id, VPrinterDriver(QUuid()));
+        const VPrinterDriver *const found = drivers.find(id);
+        return found != nullptr ? *found : VPrinterDriver(QUuid());
     }
 
     // Under the lock.
     Database::VDBText store;
-    QMap<QUuid, VPrinterDriver> drivers;
+    DriverMap drivers;
     QSet<QUuid> dirtyIds;
     QSet<QUuid> volatileIds;
     QString key;
