@@ -52,7 +52,7 @@ private:
     };
     struct Place
     {
-        std::size_t block = 0; ///< The one that the id belongs into; there may be none yet.
+        std::size_t block = 0; ///< The one that the id belongs in; there may be none yet.
         std::ptrdiff_t at = 0; ///< Where in it the id is, or would be.
         bool isFound = false;
     };

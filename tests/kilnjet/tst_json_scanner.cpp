@@ -173,7 +173,7 @@ void tst_json_scanner::whatPasses_passesQtToo()
         const int begin = random.bounded(int(sample.size()));
         QByteArray text =
             "[" + sample.sliced(begin, random.bounded(int(sample.size()) - begin)) + "]";
-        for (int changes = random.bounded(4); changes > 0; --changes) {
+        for (int changes = random.bounded(4); changes > 0 && !text.isEmpty(); --changes) {
             const int at = random.bounded(int(text.size()));
             const char bytes[] = "{}[]\",:\\ueE+-.019tfn \n\x80\xC3\xA9";
             switch (random.bounded(3)) {
