@@ -4,6 +4,7 @@
 #include "support/Store.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
@@ -32,9 +33,13 @@ public:
     bool open(OpenMode mode) override
     {
         const QString other = fileName() + u".other"_s;
+        if (!isElusive)
+            return QFile::open(mode);
         return QFile::open(mode) && QFile::copy(fileName(), other) && QFile::remove(fileName())
             && QFile::rename(other, fileName());
     }
+
+    bool isElusive = true;
 };
 
 /// A file of a class of the host's own.
@@ -58,6 +63,9 @@ private Q_SLOTS:
     void anOpenFile_isUsedAndLeftAsItWasFound();
     void anOpenFile_thatWasReplacedIsOpenedAnew();
     void anOpenFile_thatWasReplacedAndCannotBeOpenedAnewIsAnError();
+    void anOpenFile_isPurgedAndStaysInUse();
+    void anOpenFile_thatCannotBeOpenedAnewAfterAPurgeTakesNothingMore();
+    void anOpenFile_thatIsReplacedRightAfterAPurgeTakesNothingMore();
     void aFile_thatIsReplacedEachTimeCountsAsLocked();
     void aFile_withoutANameNeedsNone();
     void aFile_ofAnotherClassIsAFile();
@@ -123,6 +131,70 @@ void tst_VDBTextOpenFiles::anOpenFile_thatWasReplacedAndCannotBeOpenedAnewIsAnEr
     QCOMPARE(store.status(), VDBStatus::Io);
     file.isStuck = false;
     QVERIFY(store.open(&file));
+}
+
+void tst_VDBTextOpenFiles::anOpenFile_isPurgedAndStaysInUse()
+{
+    QFile file(m_path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(commit(&file, {{u"A"_s, u"2"_s}}));
+    const qint64 size = file.size();
+    const QIODevice::OpenMode mode = file.openMode();
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&file));
+    QVERIFY(store.purge());
+    QVERIFY(QFileInfo(m_path).size() < size);
+    QVERIFY(store.insert(record(u"B"_s, u"2"_s)));
+    store.close();
+    QVERIFY(store.wasDurable());
+
+    QCOMPARE(file.openMode(), mode);
+    QFile other(m_path);
+    QVERIFY(commit(&other, {{u"C"_s, u"3"_s}})); // The lock was given back.
+    QVERIFY(other.open(QIODevice::ReadOnly));
+    QVERIFY(file.seek(0));
+    QCOMPARE(file.readAll(), other.readAll()); // It is the new file that the host has now.
+    other.close();
+    QCOMPARE(readStore(&file).sound,
+             (QMap<QString, QString>{{u"A"_s, u"2"_s}, {u"B"_s, u"2"_s}, {u"C"_s, u"3"_s}}));
+}
+
+void tst_VDBTextOpenFiles::anOpenFile_thatCannotBeOpenedAnewAfterAPurgeTakesNothingMore()
+{
+    StuckFile file(m_path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&file));
+    file.isStuck = true;
+    QVERIFY(!store.purge());
+    QCOMPARE(store.status(), VDBStatus::Io);
+    QVERIFY(!store.insert(record(u"B"_s, u"2"_s)));
+
+    QFile other(m_path);
+    QVERIFY(commit(&other, {{u"C"_s, u"3"_s}})); // Nobody holds its lock.
+    store.close();
+    QCOMPARE(readStore(&other).sound, (QMap<QString, QString>{{u"A"_s, u"1"_s}, {u"C"_s, u"3"_s}}));
+}
+
+void tst_VDBTextOpenFiles::anOpenFile_thatIsReplacedRightAfterAPurgeTakesNothingMore()
+{
+    ElusiveFile file(m_path);
+    file.isElusive = false;
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    VDBText store;
+    store.setKey({}, toWrite());
+    QVERIFY(store.open(&file));
+    file.isElusive = true;
+    QVERIFY(!store.purge());
+    QCOMPARE(store.status(), VDBStatus::Io);
+    QCOMPARE(store.errorString(), u"another process has replaced the file"_s);
+    QVERIFY(!store.insert(record(u"B"_s, u"2"_s)));
+    store.close();
+
+    QFile other(m_path);
+    QCOMPARE(readStore(&other).sound, (QMap<QString, QString>{{u"A"_s, u"1"_s}}));
 }
 
 void tst_VDBTextOpenFiles::aFile_thatIsReplacedEachTimeCountsAsLocked()
