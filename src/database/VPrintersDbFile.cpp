@@ -12,8 +12,8 @@
 #include <vcore/VParallel.h>
 
 #include <algorithm>
-#include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
