@@ -170,10 +170,11 @@ void tst_damage::zeroedBlock_losesNoMoreThanItTouches()
         const qsizetype size = std::min(kBlock, whole.size() - begin);
         QByteArray bytes = whole;
         bytes.replace(begin, size, QByteArray(size, '\0'));
-        // Each of these commits is a record.
+        // Each of these commits is a record. The one behind the block counts when the line end in
+        // front of it is gone, too.
         const qsizetype lineBegin = whole.lastIndexOf('\n', begin - 1) + 1;
         const QByteArray touched =
-            whole.mid(lineBegin, whole.indexOf('\n', begin + size - 1) - lineBegin);
+            whole.mid(lineBegin, whole.indexOf('\n', begin + size) - lineBegin);
         const Loaded loaded = load(bytes, key, list);
         const std::string where = "block at " + std::to_string(begin);
         QVERIFY2(!loaded.isNull && !loaded.isAltered && loaded.isKept, where.c_str());
