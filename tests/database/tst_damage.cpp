@@ -172,14 +172,14 @@ void tst_damage::zeroedBlock_losesNoMoreThanItTouches()
         bytes.replace(begin, size, QByteArray(size, '\0'));
         // Each of these commits is a record. The one behind the block counts when the line end in
         // front of it is gone, too.
+        const bool isEnd = begin + size == whole.size();
         const qsizetype lineBegin = whole.lastIndexOf('\n', begin - 1) + 1;
-        const QByteArray touched =
-            whole.mid(lineBegin, whole.indexOf('\n', begin + size) - lineBegin);
+        const qsizetype lineEnd = isEnd ? whole.size() : whole.indexOf('\n', begin + size);
+        const QByteArray touched = whole.sliced(lineBegin, lineEnd - lineBegin);
         const Loaded loaded = load(bytes, key, list);
         const std::string where = "block at " + std::to_string(begin);
         QVERIFY2(!loaded.isNull && !loaded.isAltered && loaded.isKept, where.c_str());
         // A batch that has lost its end, as the last one may have, was never completed.
-        const bool isEnd = begin + size == whole.size();
         const qsizetype most = ('\n' + touched).count("\n+") + (isEnd ? 1 : 0);
         QVERIFY2(loaded.lost <= most, where.c_str());
         QVERIFY2(takesACommit(bytes, key, loaded.lost, list), where.c_str());

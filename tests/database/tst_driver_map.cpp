@@ -99,7 +99,7 @@ void tst_driver_map::map_holdsWhatItIsMadeOf_data()
 {
     QTest::addColumn<int>("size");
 
-    // Below, at and above the size of a block, and enough for several threads.
+    // Below, at and above the size of one block and of two, and many blocks.
     for (const int size : {0, 1, 127, 128, 129, 256, 257, 5000})
         QTest::addRow("%d", size) << size;
 }
@@ -165,7 +165,7 @@ void tst_driver_map::map_behavesAsAMapOfQtUnderAnyEdits()
         ids.append(numbered(i));
     DriverMap map;
     Names model;
-    // It grows to many blocks, shrinks to none, and grows again.
+    // It grows to several blocks, shrinks to a tenth, grows again, and is emptied.
     for (const int removalsInTen : {1, 9, 3}) {
         for (int step = 0; step < 3000; ++step) {
             const QUuid &id = ids[random.bounded(int(ids.size()))];
